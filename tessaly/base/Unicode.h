@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+#include "tessaly/base/Types.h"
+
+/// The steps that every conversion between the Unicode forms is made of; each conversion decides for itself
+/// what becomes of a malformed place.
+namespace tessaly::unicode {
+
+inline constexpr char32_t kReplacement = 0xFFFD;
+
+struct CodePoint {
+  char32_t value;
+  std::size_t units;
+};
+
+inline bool isSurrogate(char32_t c) { return (c & ~char32_t{0x7FF}) == 0xD800; }
+inline bool isLowSurrogate(char32_t c) { return (c & ~char32_t{0x3FF}) == 0xDC00; }
+inline bool isCodePoint(char32_t c) { return c <= 0x10FFFF && !isSurrogate(c); }
+
+/// The code point at the front of a text that is not empty, or nothing where it begins with no valid UTF-8.
+inline std::optional<CodePoint> frontOf(std::string_view text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned lead = byte(0);
+  if (lead < 0x80) return CodePoint{lead, 1};
+  const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+  if (lead < 0xC2 || lead > 0xF4 || text.size() < length) return std::nullopt;
+  char32_t value = lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0U) != 0x80) return std::nullopt;
+    value = (value << 6) | (byte(i) & 0x3FU);
+  }
+  const char32_t least = length == 4 ? 0x10000 : length == 3 ? 0x800 : 0x80;
+  if (value < least || !isCodePoint(value)) return std::nullopt;
+  return CodePoint{value, length};
+}
+
+/// The code point at the front of a text that is not empty, or nothing where it is a lone surrogate.
+inline std::optional<CodePoint> frontOf(std::u16string_view text) {
+  const char32_t first = text[0];
+  if (!isSurrogate(first)) return CodePoint{first, 1};
+  if (isLowSurrogate(first) || text.size() < 2 || !isLowSurrogate(text[1])) return std::nullopt;
+  return CodePoint{0x10000 + ((first - 0xD800) << 10) + (char32_t{text[1]} - 0xDC00), 2};
+}
+
+inline void append(String& text, char32_t c) {
+  if (c < 0x10000) {
+    text += static_cast<char16_t>(c);
+  } else {
+    text += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
+    text += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
+  }
+}
+
+inline void append(std::string& text, char32_t c) {
+  const auto trail = [&](unsigned shift) { text += static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
+  if (c < 0x80) {
+    text += static_cast<char>(c);
+  } else if (c < 0x800) {
+    text += static_cast<char>(0xC0 | (c >> 6));
+    trail(0);
+  } else if (c < 0x10000) {
+    text += static_cast<char>(0xE0 | (c >> 12));
+    trail(6), trail(0);
+  } else {
+    text += static_cast<char>(0xF0 | (c >> 18));
+    trail(12), trail(6), trail(0);
+  }
+}
+
+/// Appends UTF-8 text; each byte that is no UTF-8 becomes what `replacement` makes of it.
+template <class Replace>
+void appendUtf8(String& to, std::string_view text, Replace replacement) {
+  const std::size_t before = to.size();
+  to.resize(before + text.size());
+  std::size_t plain = 0;
+  for (; plain < text.size() && static_cast<unsigned char>(text[plain]) < 0x80; ++plain) {
+    to[before + plain] = static_cast<char16_t>(text[plain]);
+  }
+  to.resize(before + plain);
+  text.remove_prefix(plain);
+  while (!text.empty()) {
+    const auto front = frontOf(text);
+    append(to, front ? front->value : replacement(static_cast<unsigned char>(text.front())));
+    text.remove_prefix(front ? front->units : 1);
+  }
+}
+
+}  // namespace tessaly::unicode

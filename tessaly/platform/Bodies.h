@@ -1,0 +1,14 @@
+#pragma once
+
+#include "tessaly/platform/Files.h"
+#include "tessaly/platform/Locale.h"
+#include "tessaly/platform/Xml.h"
+
+/// The platform's own bodies, one factory each. Which folder answers is the build's choice.
+namespace tessaly::platform {
+
+Files& ownFiles();
+Locale& ownLocale();
+Xml& ownXml();
+
+}  // namespace tessaly::platform

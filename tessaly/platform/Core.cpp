@@ -1,0 +1,22 @@
+#include "tessaly/platform/Core.h"
+
+#include "tessaly/platform/Bodies.h"
+
+namespace tessaly::platform {
+namespace {
+
+Core& inForce() {
+  static Core bodies{&ownFiles(), &ownLocale(), &ownXml()};
+  return bodies;
+}
+
+}  // namespace
+
+const Core& core() { return inForce(); }
+
+Override::Override(Files& body) : before_(core()) { inForce().files = &body; }
+Override::Override(Locale& body) : before_(core()) { inForce().locale = &body; }
+Override::Override(Xml& body) : before_(core()) { inForce().xml = &body; }
+Override::~Override() { inForce() = before_; }
+
+}  // namespace tessaly::platform

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "tessaly/base/Export.h"
+#include "tessaly/platform/Files.h"
+#include "tessaly/platform/Locale.h"
+#include "tessaly/platform/Xml.h"
+
+namespace tessaly::platform {
+
+/// The platform as the library sees it: one body for each area. The bodies live as long as the program.
+struct Core {
+  Files* files;
+  Locale* locale;
+  Xml* xml;
+};
+
+/// The bodies in force: the platform's own, or those that an `Override` has put in their place.
+TESSALY_API const Core& core();
+
+/// Puts another body in the place of one area, for as long as it lives; for tests. The body must outlive it.
+/// Overrides end in the reverse of their order, and none begins or ends while another thread uses the
+/// library.
+class TESSALY_API Override {
+ public:
+  explicit Override(Files& body);
+  explicit Override(Locale& body);
+  explicit Override(Xml& body);
+  Override(const Override&) = delete;
+  Override& operator=(const Override&) = delete;
+  ~Override();
+
+ private:
+  Core before_;
+};
+
+}  // namespace tessaly::platform

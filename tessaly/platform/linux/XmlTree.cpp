@@ -1,0 +1,114 @@
+#include "tessaly/platform/linux/XmlTree.h"
+
+#include <algorithm>
+
+#include "tessaly/base/Unicode.h"
+
+namespace tessaly::platform {
+namespace {
+
+bool isBlank(char16_t c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; }
+
+void appendCharacters(String& text, std::string_view utf8) {
+  unicode::appendUtf8(text, utf8, [](unsigned char) { return unicode::kReplacement; });
+}
+
+}  // namespace
+
+/// Puts the text below an element together, as the Windows parser does: where a text of blanks alone was left
+/// out between two others, one blank stands for it; what comes from a CDATA section is kept from the
+/// trimming.
+class TextOfNodes {
+ public:
+  explicit TextOfNodes(String& text) : text_(&text) {}
+
+  /// Gives whether blanks were left out behind the last text.
+  bool addChildrenOf(const LinuxXmlNode& node) {
+    const std::size_t begin = text_->size();
+    bool gap = node.blanksWithin_;
+    for (const LinuxXmlNode* child = node.first_; child != nullptr; child = child->next_) {
+      const bool gapBefore = gapBefore_;
+      gapBefore_ = gapBefore || (gap && text_->size() > begin);
+      const std::size_t before = text_->size();
+      const bool gapWithin = add(*child);
+      if (text_->size() > before || child->type_ == XmlNode::CData) {
+        gap = gapWithin;
+      } else {
+        gap = gap || gapWithin;
+        gapBefore_ = gapBefore;
+      }
+      gap = gap || child->blanksBehind_;
+    }
+    return gap;
+  }
+
+  void trim() {
+    const auto first =
+        static_cast<std::size_t>(std::find_if_not(text_->begin(), text_->end(), isBlank) - text_->begin());
+    const std::size_t from = std::min(first, keptFrom_);
+    std::size_t to = text_->size();
+    while (to > std::max(from, keptTo_) && isBlank((*text_)[to - 1])) --to;
+    text_->resize(to);
+    text_->erase(0, from);
+  }
+
+ private:
+  bool add(const LinuxXmlNode& node) {
+    if (node.type_ == XmlNode::Element) return addChildrenOf(node);
+    if (node.type_ != XmlNode::Text && node.type_ != XmlNode::CData) return false;
+    if (gapBefore_) text_->push_back(u' ');
+    gapBefore_ = false;
+    const std::size_t begin = text_->size();
+    appendCharacters(*text_, node.content());
+    if (node.type_ == XmlNode::CData) {
+      keptFrom_ = std::min(keptFrom_, begin);
+      keptTo_ = text_->size();
+    }
+    return false;
+  }
+
+  String* text_;
+  std::size_t keptFrom_ = String::npos;
+  std::size_t keptTo_ = 0;
+  bool gapBefore_ = false;
+};
+
+void LinuxXmlNode::baseName(String& name) {
+  name.clear();
+  if (type_ == Element) appendCharacters(name, content());
+  // An instruction's content is its target, a blank, and its data.
+  if (type_ == ProcessingInstruction) appendCharacters(name, content().substr(0, content().find(' ')));
+}
+
+void LinuxXmlNode::nodeTypedValue(String& text) {
+  text.clear();
+  if (type_ == Element || type_ == Document) {
+    TextOfNodes texts(text);
+    texts.addChildrenOf(*this);
+    if (!keepsBlanks_) texts.trim();
+  } else if (type_ == ProcessingInstruction) {
+    appendCharacters(text, content().substr(content().find(' ') + 1));
+  } else {
+    appendCharacters(text, content());
+  }
+}
+
+void LinuxXmlNode::append(LinuxXmlNode& child) {
+  child.parent_ = this;
+  if (last_ != nullptr) {
+    last_->next_ = &child;
+  } else {
+    first_ = &child;
+  }
+  last_ = &child;
+}
+
+void LinuxXmlNode::noteBlanks() {
+  if (last_ != nullptr) {
+    last_->blanksBehind_ = true;
+  } else {
+    blanksWithin_ = true;
+  }
+}
+
+}  // namespace tessaly::platform
