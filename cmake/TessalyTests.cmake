@@ -5,18 +5,20 @@ set(INSTALL_GTEST OFF CACHE INTERNAL "")
 set(BUILD_GMOCK OFF CACHE INTERNAL "")
 add_subdirectory("${TESSALY_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
-# tessaly_test(<area> SOURCES <file>... [LIBRARY <target>]): one program for the tests of an area. The area is the
-# ctest label; the tests run in the project's folder. LIBRARY is Tessaly::core where nothing else is told.
-function(tessaly_test area)
-  cmake_parse_arguments(arg "" "LIBRARY" "SOURCES" ${ARGN})
+# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>]): one program for tests, which run in the
+# project's folder. The name is the ctest label where no other is told, and LIBRARY is Tessaly::core.
+function(tessaly_test name)
+  cmake_parse_arguments(arg "" "LIBRARY;LABEL" "SOURCES" ${ARGN})
   if(NOT arg_LIBRARY)
     set(arg_LIBRARY Tessaly::core)
   endif()
-  set(target tests-${area})
+  if(NOT arg_LABEL)
+    set(arg_LABEL ${name})
+  endif()
+  set(target tests-${name})
   add_executable(${target} ${arg_SOURCES})
   tessaly_options(${target})
-  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
-  target_link_libraries(${target} PRIVATE ${arg_LIBRARY} GTest::gtest_main)
-  gtest_discover_tests(${target} TEST_PREFIX "${area}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
-                       DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${area} TIMEOUT 120)
+  target_link_libraries(${target} PRIVATE tests-support ${arg_LIBRARY} GTest::gtest_main)
+  gtest_discover_tests(${target} TEST_PREFIX "${arg_LABEL}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
+                       DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT 120)
 endfunction()

@@ -77,7 +77,7 @@ struct Xml {
   virtual std::unique_ptr<XmlDocument> createDocument() = 0;
 };
 
-/// The children of a node, gone through once. The node must outlive it.
+/// The children of a node, gone through once; the node's own pointer may be gone by then.
 class XmlChildNodes {
  public:
   class Iterator {
@@ -94,15 +94,15 @@ class XmlChildNodes {
     XmlNodePtr node_;
   };
 
-  explicit XmlChildNodes(XmlNode& parent) : parent_(&parent) {}
-  Iterator begin() const { return Iterator(parent_->firstChild()); }
+  explicit XmlChildNodes(XmlNodePtr first) : first_(std::move(first)) {}
+  Iterator begin() { return Iterator(std::move(first_)); }
   std::nullptr_t end() const { return nullptr; }
 
  private:
-  XmlNode* parent_;
+  XmlNodePtr first_;
 };
 
 inline void ReleaseXmlNode::operator()(XmlNode* node) const noexcept { node->release(); }
-inline XmlChildNodes XmlNode::childNodes() { return XmlChildNodes(*this); }
+inline XmlChildNodes XmlNode::childNodes() { return XmlChildNodes(firstChild()); }
 
 }  // namespace tessaly::platform

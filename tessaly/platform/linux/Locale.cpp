@@ -31,9 +31,10 @@ std::string chosenLocale(const char* category) {
 /// The locale as ICU has it, with the country that a language alone most likely means.
 icu::Locale icuLocale(const std::string& name) {
   icu::Locale locale = icu::Locale::createCanonical(name.c_str());
+  if (*locale.getCountry() != '\0') return locale;
   UErrorCode error = U_ZERO_ERROR;
-  if (*locale.getCountry() == '\0') locale.addLikelySubtags(error);
-  return locale;
+  locale.addLikelySubtags(error);
+  return {locale.getLanguage(), locale.getCountry()};
 }
 
 class LinuxLocale final : public Locale {

@@ -3,6 +3,7 @@
 #include <strings.h>
 #include <unicode/ucnv.h>
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 
@@ -36,6 +37,16 @@ std::string_view declaredEncoding(std::string_view document) {
   if (open == std::string_view::npos) return {};
   const auto close = rest.find(rest[open], open + 1);
   return close == std::string_view::npos ? std::string_view() : rest.substr(open + 1, close - open - 1);
+}
+
+/// Whether a name is one that XML allows; ICU passes over other characters, and takes options behind a comma.
+bool isEncodingName(std::string_view name) {
+  constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+  constexpr std::string_view others = "0123456789._-";
+  return letters.find(name.front()) != std::string_view::npos &&
+         std::all_of(name.begin(), name.end(), [&](char c) {
+           return letters.find(c) != std::string_view::npos || others.find(c) != std::string_view::npos;
+         });
 }
 
 /// Whether a converter is for text that a document may be declared in: no ISO 2022, UTF-7 or the like, whose
@@ -88,7 +99,7 @@ std::optional<std::string> fromDeclared(std::string bytes, bool marked) {
     if (marked) bytes.erase(0, kUtf8Mark.size());
     return bytes;
   }
-  if (sameName(declared.substr(0, 6), "UTF-16")) return std::nullopt;
+  if (!isEncodingName(declared) || sameName(declared.substr(0, 6), "UTF-16")) return std::nullopt;
   // Windows means its code page 936 by this name, which has more characters than the standard.
   return converted(text, sameName(declared, "gb2312") ? "GBK" : declared.c_str());
 }

@@ -1,5 +1,7 @@
 #include "tessaly/platform/Xml.h"
 
+#include <algorithm>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -11,24 +13,50 @@ namespace tessaly::platform {
 namespace {
 
 constexpr CLSID kDomDocument = {0xF6D90F11, 0x9C73, 0x11D3, {0xB3, 0x2E, 0x00, 0xC0, 0x4F, 0x99, 0x0B, 0xB4}};
-constexpr int kDeepest = 256;
 
-ComPtr<IStream> streamOf(const std::string& bytes) {
-  auto stream = taken<IStream>([](IStream** out) { return CreateStreamOnHGlobal(nullptr, TRUE, out); });
-  if (!stream || FAILED(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr)))
-    return nullptr;
-  const LARGE_INTEGER start{};
-  return SUCCEEDED(stream->Seek(start, STREAM_SEEK_SET, nullptr)) ? std::move(stream) : nullptr;
-}
-
-/// The system's parser of old has no bound of its own everywhere, and who walks the tree goes down with it.
-bool isDeeperThan(int levels, XmlNode& node) {
-  if (levels < 0) return true;
-  for (XmlNode& child : node.childNodes()) {
-    if (child.nodeType() == XmlNode::Element && isDeeperThan(levels - 1, child)) return true;
+/// Bytes as the model takes them.
+class ByteArray {
+ public:
+  explicit ByteArray(const std::string& bytes) {
+    value_.vt = VT_ARRAY | VT_UI1;
+    value_.parray = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+    if (value_.parray == nullptr) throw std::bad_alloc();
+    std::copy(bytes.begin(), bytes.end(), static_cast<char*>(value_.parray->pvData));
   }
-  return false;
-}
+  ByteArray(const ByteArray&) = delete;
+  ByteArray& operator=(const ByteArray&) = delete;
+  ~ByteArray() { VariantClear(&value_); }
+
+  const VARIANT& get() const { return value_; }
+
+ private:
+  VARIANT value_{};
+};
+
+/// What the system's parser lets through and who reads the tree goes down with: the parser of old has no
+/// bound of its own everywhere, and puts entities together only when their text is asked for.
+class HostileTree {
+ public:
+  explicit HostileTree(std::size_t documentSize) : mostReferences_(kMostText / documentSize) {}
+
+  bool isHostile(XmlNode& node, int levelsLeft = kDeepest) {
+    if (levelsLeft < 0) return true;
+    for (XmlNode& child : node.childNodes()) {
+      const Long type = child.nodeType();
+      if (type == NODE_ENTITY_REFERENCE && ++references_ > mostReferences_) return true;
+      if (type == XmlNode::Element && isHostile(child, levelsLeft - 1)) return true;
+    }
+    return false;
+  }
+
+ private:
+  static constexpr int kDeepest = 256;
+  /// A reference brings at most the whole document.
+  static constexpr std::size_t kMostText = std::size_t{256} << 20U;
+
+  std::size_t mostReferences_;
+  std::size_t references_ = 0;
+};
 
 class WindowsXmlDocument final : public XmlDocument {
  public:
@@ -52,12 +80,12 @@ class WindowsXmlDocument final : public XmlDocument {
   }
 
   bool load(std::u16string_view path) override {
-    // The file is opened here, since the model's own `load` takes its argument for an address.
+    // The file is opened here, since the model's own `load` takes its argument for an address. Its bytes go
+    // in as an array: a stream is copied page by page, which takes half a minute for 50 MB.
     const std::optional<std::string> bytes = core().files->read(path);
-    const ComPtr<IStream> stream = bytes ? streamOf(*bytes) : nullptr;
-    loaded_ = stream && parse(stream.get());
+    loaded_ = bytes && !bytes->empty() && parse(*bytes);
     const XmlNodePtr root = documentElement();
-    loaded_ = root && !isDeeperThan(kDeepest, *root);
+    loaded_ = root && !HostileTree(bytes->size()).isHostile(*root);
     return loaded_;
   }
 
@@ -76,13 +104,10 @@ class WindowsXmlDocument final : public XmlDocument {
   }
 
  private:
-  bool parse(IStream* stream) {
-    VARIANT source;
-    VariantInit(&source);
-    source.vt = VT_UNKNOWN;
-    source.punkVal = stream;
+  bool parse(const std::string& bytes) {
+    const ByteArray source(bytes);
     VARIANT_BOOL wellFormed = VARIANT_FALSE;
-    return document_->load(source, &wellFormed) == S_OK && wellFormed != VARIANT_FALSE;
+    return document_->load(source.get(), &wellFormed) == S_OK && wellFormed != VARIANT_FALSE;
   }
 
   ComApartment apartment_;
