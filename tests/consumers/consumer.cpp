@@ -1,0 +1,24 @@
+// A host that takes the library as its users do.
+
+#include <cstdio>
+
+#include "tessaly/base/RuntimeError.h"
+#include "tessaly/base/Text.h"
+#include "tessaly/localisation/CResources.h"
+#include "tessaly/platform/Core.h"
+#include "tessaly/platform/fake/Files.h"
+
+int main() {
+  tessaly::platform::fake::Files files;
+  files.put(u"/a.xml", "<L><GENERAL><LANG>Test</LANG><LANGID>7</LANGID></GENERAL></L>");
+  const tessaly::platform::Override override(files);
+  tessaly::CResources resources;
+  resources.lang(7);
+  try {
+    resources.res(175);
+  } catch (const tessaly::RuntimeError& error) {
+    std::printf("%s, %s, error %d\n", tessaly::toUtf8(resources.langName()).c_str(),
+                tessaly::toUtf8(resources.resWithArg(13, 3, 9)).c_str(), error.number());
+  }
+  return 0;
+}
