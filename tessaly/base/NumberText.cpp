@@ -32,10 +32,8 @@ class NumberScan {
   }
 
   std::size_t takeDigits() {
-    const auto end = std::find_if_not(rest_.begin(), rest_.end(), isDigit);
-    const auto count = static_cast<std::size_t>(end - rest_.begin());
-    std::transform(rest_.begin(), end, std::back_inserter(accepted_),
-                   [](char16_t c) { return static_cast<char>(c); });
+    std::size_t count = 0;
+    while (count < rest_.size() && isDigit(rest_[count])) accepted_ += static_cast<char>(rest_[count++]);
     rest_.remove_prefix(count);
     return count;
   }

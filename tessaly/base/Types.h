@@ -18,13 +18,12 @@ class Boolean {
  public:
   constexpr Boolean() = default;
   template <std::same_as<bool> B>
-  constexpr Boolean(B value) : value_(value ? -1 : 0) {}  // NOLINT(google-explicit-constructor)
+  constexpr Boolean(B value) : value_(value ? -1 : 0) {}
   template <std::integral I>
-  requires(!std::same_as<I, bool>) constexpr Boolean(I value)  // NOLINT(google-explicit-constructor)
-      : value_(static_cast<std::int16_t>(value)) {}
+  requires(!std::same_as<I, bool>) constexpr Boolean(I value) : value_(static_cast<std::int16_t>(value)) {}
 
   /// The number itself, which also serves every test.
-  constexpr operator std::int16_t() const { return value_; }  // NOLINT(google-explicit-constructor)
+  constexpr operator std::int16_t() const { return value_; }
 
  private:
   std::int16_t value_ = 0;

@@ -15,15 +15,15 @@ class TESSALY_API Variant {
  public:
   using Value = std::variant<Boolean, std::int16_t, Long, double, String>;
 
-  Variant(Boolean value) : value_(value) {}                      // NOLINT(google-explicit-constructor)
-  Variant(std::int16_t value) : value_(value) {}                 // NOLINT(google-explicit-constructor)
-  Variant(Long value) : value_(value) {}                         // NOLINT(google-explicit-constructor)
-  Variant(double value) : value_(value) {}                       // NOLINT(google-explicit-constructor)
-  Variant(String value) : value_(std::move(value)) {}            // NOLINT(google-explicit-constructor)
-  Variant(std::u16string_view value) : value_(String(value)) {}  // NOLINT(google-explicit-constructor)
-  Variant(const char16_t* value) : value_(String(value)) {}      // NOLINT(google-explicit-constructor)
+  Variant(Boolean value) : value_(value) {}
+  Variant(std::int16_t value) : value_(value) {}
+  Variant(Long value) : value_(value) {}
+  Variant(double value) : value_(value) {}
+  Variant(String value) : value_(std::move(value)) {}
+  Variant(std::u16string_view value) : value_(String(value)) {}
+  Variant(const char16_t* value) : value_(String(value)) {}
   template <std::same_as<bool> B>
-  Variant(B value) : value_(Boolean(value)) {}  // NOLINT(google-explicit-constructor)
+  Variant(B value) : value_(Boolean(value)) {}
   Variant(const char*) = delete;
   Variant(std::nullptr_t) = delete;
 

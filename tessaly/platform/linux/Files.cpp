@@ -92,6 +92,7 @@ class LinuxFiles final : public Files {
     }
     std::sort(names.begin(), names.end());
     std::vector<String> result;
+    result.reserve(names.size());
     for (Name& name : names) result.push_back(std::move(name.text));
     return result;
   }
