@@ -1,0 +1,12 @@
+#include "examples/showcase/Sections.h"
+
+namespace showcase {
+
+void showHeading(const Screen& screen, std::u16string_view heading, std::u16string_view explanation) {
+  screen.line();
+  screen.line({{tessaly::String(heading), Style::Heading},
+               {u"  ", Style::Plain},
+               {tessaly::String(explanation), Style::Plain}});
+}
+
+}  // namespace showcase

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "tessaly/localisation/CResources.h"
+
+/// What the showcase is as a host: its identity, its folder, and names for the slots that it shows.
+namespace showcase {
+
+inline constexpr std::u16string_view kApplicationGUID = u"CA2C7606-C0B7-47c8-A153-F1FC278BBEB3";
+inline constexpr std::u16string_view kLanguagesFolder = u"examples/showcase/languages";
+inline constexpr std::u16string_view kSamplesFolder = u"examples/showcase/samples";
+inline constexpr tessaly::Long kBuiltInEnglish = 2057;
+
+enum Text : tessaly::Long {
+  Cancel = 0,
+  OK = 1,
+  Open = 12,
+  PageOf = 13,
+  FileMenu = 20,
+  OpenFile = 28,
+  PrintFile = 31,
+  PrintPreview = 32,
+  ExitProgram = 37,
+  NumberOfCopies = 117,
+  AllPages = 118,
+  CurrentPage = 119,
+  SaveChanges = 154,
+};
+
+/// Gives a catalogue the showcase's identity and folder.
+void start(tessaly::CResources& resources);
+
+/// The numbers to choose from: the built-in English, then what the folder has.
+std::vector<tessaly::Long> languages(tessaly::CResources& resources);
+
+}  // namespace showcase
