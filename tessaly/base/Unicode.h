@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -46,13 +47,20 @@ inline std::optional<CodePoint> frontOf(std::u16string_view text) {
   return CodePoint{0x10000 + ((first - 0xD800) << 10) + (char32_t{text[1]} - 0xDC00), 2};
 }
 
-inline void append(String& text, char32_t c) {
+/// Writes a code point at `to`; gives the place behind it.
+inline char16_t* write(char16_t* to, char32_t c) {
   if (c < 0x10000) {
-    text += static_cast<char16_t>(c);
+    *to++ = static_cast<char16_t>(c);
   } else {
-    text += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
-    text += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
+    *to++ = static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
+    *to++ = static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
   }
+  return to;
+}
+
+inline void append(String& text, char32_t c) {
+  std::array<char16_t, 2> units{};
+  text.append(units.data(), write(units.data(), c));
 }
 
 inline void append(std::string& text, char32_t c) {
@@ -71,22 +79,31 @@ inline void append(std::string& text, char32_t c) {
   }
 }
 
-/// Appends UTF-8 text; each byte that is no UTF-8 becomes what `replacement` makes of it.
+/// Writes UTF-8 text at `to`, which has room for as many units as the text has bytes; gives the place behind
+/// it. Each byte that is no UTF-8 becomes the one unit that `replacement` makes of it.
+template <class Replace>
+char16_t* writeUtf8(char16_t* to, std::string_view text, Replace replacement) {
+  while (!text.empty()) {
+    const auto byte = static_cast<unsigned char>(text.front());
+    if (byte < 0x80) {
+      *to++ = byte;
+      text.remove_prefix(1);
+    } else {
+      const auto front = frontOf(text);
+      to = write(to, front ? front->value : replacement(byte));
+      text.remove_prefix(front ? front->units : 1);
+    }
+  }
+  return to;
+}
+
+/// Appends UTF-8 text in the same way.
 template <class Replace>
 void appendUtf8(String& to, std::string_view text, Replace replacement) {
   const std::size_t before = to.size();
   to.resize(before + text.size());
-  std::size_t plain = 0;
-  for (; plain < text.size() && static_cast<unsigned char>(text[plain]) < 0x80; ++plain) {
-    to[before + plain] = static_cast<char16_t>(text[plain]);
-  }
-  to.resize(before + plain);
-  text.remove_prefix(plain);
-  while (!text.empty()) {
-    const auto front = frontOf(text);
-    append(to, front ? front->value : replacement(static_cast<unsigned char>(text.front())));
-    text.remove_prefix(front ? front->units : 1);
-  }
+  const char16_t* end = writeUtf8(to.data() + before, text, replacement);
+  to.resize(static_cast<std::size_t>(end - to.data()));
 }
 
 }  // namespace tessaly::unicode

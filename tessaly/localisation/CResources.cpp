@@ -8,13 +8,24 @@
 namespace tessaly {
 namespace {
 
+using namespace std::string_view_literals;
+
+/// Where `word` stands at `from` or later, or the text's length. The string's own search goes in single
+/// steps, which here costs half as much again.
+std::size_t find(std::u16string_view text, std::u16string_view word, std::size_t from) {
+  const auto begin = text.begin() + static_cast<std::ptrdiff_t>(from);
+  return static_cast<std::size_t>(std::search(begin, text.end(), word.begin(), word.end()) - text.begin());
+}
+
 /// Puts `replacement` in the place of every `word`, from the front; what comes in is not looked at again.
 void replaceAll(String& text, std::u16string_view word, std::u16string_view replacement) {
-  for (auto place = text.find(word); place != String::npos;
-       place = text.find(word, place + replacement.size())) {
+  for (auto place = find(text, word, 0); place != text.size();
+       place = find(text, word, place + replacement.size())) {
     text.replace(place, word.size(), replacement);
   }
 }
+
+String withStringNumber(String text, Long n) { return std::move(text) + u'[' + decimal(n + 1) + u']'; }
 
 }  // namespace
 
@@ -23,16 +34,17 @@ CResources::CResources(const BuiltInStrings& builtIn) : builtIn_(&builtIn) {}
 CResources::~CResources() = default;
 
 String CResources::res(Long n) const {
-  String text = slot(n);
-  appendStringNumber(text, n);
-  return text;
+  if (showStringNumbers_) [[unlikely]]
+    return withStringNumber(slot(n), n);
+  return slot(n);
 }
 
 String CResources::resWithArg(Long n, const Variant& first, const Variant& second) const {
   String text = slot(n);
-  replaceAll(text, u"%a1", VariantText(first).view());
-  replaceAll(text, u"%a2", VariantText(second).view());
-  appendStringNumber(text, n);
+  replaceAll(text, u"%a1"sv, VariantText(first).view());
+  replaceAll(text, u"%a2"sv, VariantText(second).view());
+  if (showStringNumbers_) [[unlikely]]
+    text = withStringNumber(std::move(text), n);
   return text;
 }
 
@@ -41,13 +53,6 @@ void CResources::FillBuiltInStrings() { std::copy(builtIn_->begin(), builtIn_->e
 const String& CResources::slot(Long n) const {
   if (n < 0 || n >= kStringCount) throw RuntimeError(RuntimeError::SubscriptOutOfRange);
   return strings_[static_cast<std::size_t>(n)];
-}
-
-void CResources::appendStringNumber(String& text, Long n) const {
-  if (!showStringNumbers_) return;
-  text += u'[';
-  appendDecimal(text, n + 1);
-  text += u']';
 }
 
 String CResources::reportFontName() const { return reportFontName_; }

@@ -104,12 +104,11 @@ class TESSALY_API CResources {
 
  private:
   const String& slot(Long n) const;
-  void appendStringNumber(String& text, Long n) const;
   void readLanguageFile(std::u16string_view path, Boolean headerOnly, Boolean& rejected);
   void clearFileFields();
   void readGeneral(platform::XmlNode& section);
   void readFonts(platform::XmlNode& section);
-  void readString(platform::XmlNode& section);
+  void readString(platform::XmlNode& section, String& text);
   std::optional<Long> listedFor(Long id) const;
   bool takeFile(Long id);
   void readChosenFile();

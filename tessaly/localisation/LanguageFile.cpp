@@ -17,6 +17,8 @@ using platform::XmlNodePtr;
 
 namespace {
 
+using namespace std::string_view_literals;
+
 /// Whether a name, in upper case, is one of the format's. Only a to z have a capital that matters.
 bool isName(std::u16string_view name, std::u16string_view upperCased) {
   return std::equal(name.begin(), name.end(), upperCased.begin(), upperCased.end(),
@@ -33,7 +35,7 @@ class Field {
   template <class Take>
   void forEach(Take take) {
     for (XmlNode& child : section_->childNodes()) {
-      child.baseName(name_);
+      name_ = child.baseName();
       child_ = &child;
       take(*this);
     }
@@ -42,14 +44,15 @@ class Field {
   bool is(std::u16string_view upperCased) const { return isName(name_, upperCased); }
 
   const String& text() {
-    child_->nodeTypedValue(text_);
+    text(text_);
     return text_;
   }
+  void text(String& into) { child_->nodeTypedValue(into); }
 
  private:
   XmlNode* section_;
   XmlNode* child_ = nullptr;
-  String name_;
+  std::u16string_view name_;
   String text_;
 };
 
@@ -94,18 +97,18 @@ void CResources::clearFileFields() {
 }
 
 void CResources::WalkLanguageNodes(XmlChildNodes nodes, Boolean headerOnly) {
-  String name;
+  String text;
   for (XmlNode& node : nodes) {
     if (node.nodeType() == XmlNode::Element) {
-      node.baseName(name);
-      if (isName(name, u"GENERAL")) {
+      const std::u16string_view name = node.baseName();
+      if (isName(name, u"GENERAL"sv)) {
         readGeneral(node);
         // This ends the list at this depth alone; an outer walk goes on.
         if (headerOnly) return;
-      } else if (!headerOnly && isName(name, u"FONTS")) {
+      } else if (!headerOnly && isName(name, u"FONTS"sv)) {
         readFonts(node);
-      } else if (!headerOnly && isName(name, u"STRING")) {
-        readString(node);
+      } else if (!headerOnly && isName(name, u"STRING"sv)) {
+        readString(node, text);
       }
     }
     if (node.hasChildNodes()) WalkLanguageNodes(node.childNodes(), headerOnly);
@@ -114,28 +117,28 @@ void CResources::WalkLanguageNodes(XmlChildNodes nodes, Boolean headerOnly) {
 
 void CResources::readGeneral(XmlNode& section) {
   Field(section).forEach([this](Field& field) {
-    if (field.is(u"VERSION")) fileVersion_ = textToLong(field.text());
-    if (field.is(u"GUID")) fileGUID_ = field.text();
-    if (field.is(u"LANG")) fileLang_ = field.text();
-    if (field.is(u"LANGID")) fileLangID_ = textToLong(field.text());
+    if (field.is(u"VERSION"sv)) fileVersion_ = textToLong(field.text());
+    if (field.is(u"GUID"sv)) fileGUID_ = field.text();
+    if (field.is(u"LANG"sv)) fileLang_ = field.text();
+    if (field.is(u"LANGID"sv)) fileLangID_ = textToLong(field.text());
   });
 }
 
 void CResources::readFonts(XmlNode& section) {
   Field(section).forEach([this](Field& field) {
-    if (field.is(u"PRINTFONTNAME")) reportFontName_ = field.text();
-    if (field.is(u"GRIDFONTNAME")) gridFontName_ = field.text();
-    if (field.is(u"GRIDFONTSIZE")) gridFontSize_ = textToLong(field.text());
-    if (field.is(u"MAILFONTNAME")) mailFontName_ = field.text();
+    if (field.is(u"PRINTFONTNAME"sv)) reportFontName_ = field.text();
+    if (field.is(u"GRIDFONTNAME"sv)) gridFontName_ = field.text();
+    if (field.is(u"GRIDFONTSIZE"sv)) gridFontSize_ = textToLong(field.text());
+    if (field.is(u"MAILFONTNAME"sv)) mailFontName_ = field.text();
   });
 }
 
-void CResources::readString(XmlNode& section) {
+void CResources::readString(XmlNode& section, String& text) {
   Long number = 0;
-  String text;
+  text.clear();
   Field(section).forEach([&](Field& field) {
-    if (field.is(u"ID")) number = textToLong(field.text());
-    if (field.is(u"VALUE")) text = field.text();
+    if (field.is(u"ID"sv)) number = textToLong(field.text());
+    if (field.is(u"VALUE"sv)) field.text(text);
   });
   if (number < 1 || number > kStringCount || text.empty()) return;
   strings_[static_cast<std::size_t>(number - 1)] = text;

@@ -23,20 +23,17 @@ struct TextIn {
   std::u16string_view operator()(const String& text) const { return text; }
   std::u16string_view operator()(Boolean value) const { return value ? u"True" : u"False"; }
   std::u16string_view operator()(double value) const { return made = localNumberText(value); }
-  std::u16string_view operator()(Long value) const {
-    appendDecimal(made, value);
-    return made;
-  }
+  std::u16string_view operator()(Long value) const { return made = decimal(value); }
 };
 
 }  // namespace
 
 VariantText::VariantText(const Variant& value) : view_(std::visit(TextIn{made_}, value.value())) {}
 
-void appendDecimal(String& text, Long number) {
+String decimal(Long number) {
   std::array<char, 12> digits{};
   const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-  text.append(digits.data(), result.ptr);
+  return {digits.data(), result.ptr};
 }
 
 }  // namespace tessaly

@@ -22,7 +22,7 @@ class VariantText {
   std::u16string_view view_;
 };
 
-/// Appends a number's decimal digits.
-void appendDecimal(String& text, Long number);
+/// A number's decimal digits.
+String decimal(Long number);
 
 }  // namespace tessaly

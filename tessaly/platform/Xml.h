@@ -24,8 +24,9 @@ struct XmlNode {
   /// One of `Type`, or a further number of the model; only elements matter to the library.
   virtual Long nodeType() = 0;
 
-  /// Puts the local name, without a prefix, into `name`; empty for nodes without a name.
-  virtual void baseName(String& name) = 0;
+  /// The local name, without a prefix; empty for nodes without a name. Valid until this pointer is asked
+  /// again or goes.
+  virtual std::u16string_view baseName() = 0;
 
   /// Puts the text of the node and of all below it into `text`. Blanks at both ends of an element's text are
   /// gone unless xml:space keeps them; CDATA sections stay whole.

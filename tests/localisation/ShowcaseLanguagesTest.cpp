@@ -57,26 +57,20 @@ class ShowcaseLanguagesTest : public testing::TestWithParam<Language> {
     EXPECT_TRUE(document->load(path()));
     for (XmlNode& section : document->documentElement()->childNodes()) {
       for (XmlNode& entry : section.childNodes()) {
-        if (nameOf(entry) == u"STRING") result.insert(entryOf(entry));
+        if (entry.baseName() == u"STRING") result.insert(entryOf(entry));
       }
     }
     return result;
   }
 
  private:
-  static String nameOf(XmlNode& node) {
-    String name;
-    node.baseName(name);
-    return name;
-  }
-
   static std::pair<int, String> entryOf(XmlNode& node) {
     std::pair<int, String> entry;
     for (XmlNode& field : node.childNodes()) {
       String text;
       field.nodeTypedValue(text);
-      if (nameOf(field) == u"ID") entry.first = std::stoi(toUtf8(text));
-      if (nameOf(field) == u"VALUE") entry.second = text;
+      if (field.baseName() == u"ID") entry.first = std::stoi(toUtf8(text));
+      if (field.baseName() == u"VALUE") entry.second = text;
     }
     return entry;
   }

@@ -16,8 +16,7 @@ using tessaly::platform::XmlNodePtr;
 namespace {
 
 String nameOf(XmlNode& node) {
-  String name;
-  node.baseName(name);
+  String name(node.baseName());
   std::transform(name.begin(), name.end(), name.begin(), [](char16_t c) {
     return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - u'a' + u'A') : c;
   });

@@ -35,9 +35,8 @@ class LinuxXmlDocument final : public XmlDocument {
   }
 
   XmlNodePtr createTextNode(std::u16string_view text) override {
-    const std::size_t place = tree_.characters().size();
-    tree_.characters() += toUtf8(text);
-    return XmlNodePtr(&tree_.add(XmlNode::Text, place));
+    tree_.addText(toUtf8(text));
+    return XmlNodePtr(&tree_.add(XmlNode::Text));
   }
 
  private:

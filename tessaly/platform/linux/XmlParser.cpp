@@ -2,6 +2,7 @@
 
 #include <expat.h>
 
+#include <algorithm>
 #include <climits>
 #include <exception>
 #include <memory>
@@ -19,13 +20,14 @@ struct FreeParser {
   void operator()(XML_ParserStruct* parser) const { XML_ParserFree(parser); }
 };
 
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
 std::string_view localName(std::string_view name) { return name.substr(name.rfind(kSeparator) + 1); }
 
 /// Builds the tree from what Expat tells. No exception passes through Expat: it is kept and raised behind it.
 class TreeBuilder {
  public:
-  TreeBuilder(XML_Parser parser, XmlTree& tree)
-      : parser_(parser), tree_(&tree), open_(&tree.root()), characters_(&tree.characters()) {}
+  TreeBuilder(XML_Parser parser, XmlTree& tree) : parser_(parser), tree_(&tree), open_(&tree.root()) {}
 
   void registerHandlers() {
     XML_SetUserData(parser_, this);
@@ -50,6 +52,7 @@ class TreeBuilder {
     auto& builder = *static_cast<TreeBuilder*>(self);
     try {
       step(builder);
+      if (builder.tree_->isFull()) XML_StopParser(builder.parser_, XML_FALSE);
     } catch (...) {
       builder.error_ = std::current_exception();
       XML_StopParser(builder.parser_, XML_FALSE);
@@ -64,7 +67,7 @@ class TreeBuilder {
   }
   static void onCharacters(void* self, const char* text, int length) {
     guarded(self, [&](TreeBuilder& builder) {
-      builder.characters_->append(text, static_cast<std::size_t>(length));
+      builder.tree_->addText({text, static_cast<std::size_t>(length)});
     });
   }
   static void onCDataStart(void* self) {
@@ -74,12 +77,11 @@ class TreeBuilder {
     guarded(self, [](TreeBuilder& builder) { builder.addNode(XmlNode::CData); });
   }
   static void onComment(void* self, const char* text) {
-    guarded(self, [&](TreeBuilder& builder) { builder.addOther(XmlNode::Comment, {text}); });
+    guarded(self, [&](TreeBuilder& builder) { builder.addOther(XmlNode::Comment, {}, text); });
   }
   static void onInstruction(void* self, const char* target, const char* data) {
-    guarded(self, [&](TreeBuilder& builder) {
-      builder.addOther(XmlNode::ProcessingInstruction, {target, " ", data});
-    });
+    guarded(self,
+            [&](TreeBuilder& builder) { builder.addOther(XmlNode::ProcessingInstruction, target, data); });
   }
   static void onDeclaration(void* self, const char* version, const char* /*encoding*/, int /*standalone*/) {
     // An external entity's declaration may lack the version; a document's never does.
@@ -94,8 +96,7 @@ class TreeBuilder {
       XML_StopParser(parser_, XML_FALSE);
       return;
     }
-    *characters_ += localName(name);
-    LinuxXmlNode& element = addNode(XmlNode::Element);
+    LinuxXmlNode& element = addNode(XmlNode::Element, localName(name));
     element.keepBlanks(open_->keepsBlanks());
     for (; *attributes != nullptr; attributes += 2) {
       if (*attributes == kSpaceAttribute) element.keepBlanks(attributes[1] == std::string_view("preserve"));
@@ -109,37 +110,34 @@ class TreeBuilder {
     --depth_;
   }
 
-  /// What was stored since the last node becomes one text, or is noted and left out where it is blanks alone.
+  /// What was added since the last node becomes one text, or is noted and left out where it is blanks alone.
   void endText() {
-    const auto begin = stored_;
-    if (begin == characters_->size()) return;
-    const bool blank = characters_->find_first_not_of(" \t\r\n", begin) == std::string::npos;
+    const std::string_view text = tree_->pendingText();
+    if (text.empty()) return;
+    const bool blank = std::all_of(text.begin(), text.end(), isBlank);
     if (!blank || open_->keepsBlanks()) {
       addNode(XmlNode::Text);
     } else {
       open_->noteBlanks();
-      characters_->resize(begin);
+      tree_->dropText();
     }
   }
 
-  void addOther(XmlNode::Type type, std::initializer_list<const char*> content) {
+  void addOther(XmlNode::Type type, std::string_view name, std::string_view text) {
     endText();
-    for (const char* part : content) *characters_ += part;
-    addNode(type);
+    tree_->addText(text);
+    addNode(type, name);
   }
 
-  LinuxXmlNode& addNode(XmlNode::Type type) {
-    LinuxXmlNode& node = tree_->add(type, stored_);
+  LinuxXmlNode& addNode(XmlNode::Type type, std::string_view name = {}) {
+    LinuxXmlNode& node = tree_->add(type, name);
     open_->append(node);
-    stored_ = characters_->size();
     return node;
   }
 
   XML_Parser parser_;
   XmlTree* tree_;
   LinuxXmlNode* open_;
-  std::string* characters_;
-  std::size_t stored_ = 0;
   int depth_ = 0;
   std::exception_ptr error_;
 };
@@ -150,6 +148,7 @@ bool parseXml(std::string_view document, XmlTree& tree) {
   if (document.size() > INT_MAX) return false;
   const std::unique_ptr<XML_ParserStruct, FreeParser> parser(XML_ParserCreateNS("UTF-8", kSeparator));
   if (!parser) throw std::bad_alloc();
+  tree.reserve(document.size());
   TreeBuilder builder(parser.get(), tree);
   builder.registerHandlers();
   const XML_Status status =

@@ -9,6 +9,13 @@ namespace {
 
 bool isBlank(char16_t c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; }
 
+template <class Text>
+Text trimmed(Text text) {
+  while (!text.empty() && isBlank(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
+  while (!text.empty() && isBlank(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
+  return text;
+}
+
 void appendCharacters(String& text, std::string_view utf8) {
   unicode::appendUtf8(text, utf8, [](unsigned char) { return unicode::kReplacement; });
 }
@@ -59,7 +66,7 @@ class TextOfNodes {
     if (gapBefore_) text_->push_back(u' ');
     gapBefore_ = false;
     const std::size_t begin = text_->size();
-    appendCharacters(*text_, node.content());
+    appendCharacters(*text_, node.text());
     if (node.type_ == XmlNode::CData) {
       keptFrom_ = std::min(keptFrom_, begin);
       keptTo_ = text_->size();
@@ -73,23 +80,27 @@ class TextOfNodes {
   bool gapBefore_ = false;
 };
 
-void LinuxXmlNode::baseName(String& name) {
-  name.clear();
-  if (type_ == Element) appendCharacters(name, content());
-  // An instruction's content is its target, a blank, and its data.
-  if (type_ == ProcessingInstruction) appendCharacters(name, content().substr(0, content().find(' ')));
+LinuxXmlNode& XmlTree::add(XmlNode::Type type, std::string_view name) {
+  LinuxXmlNode::Content content;
+  content.name = static_cast<std::uint32_t>(names_.size());
+  appendCharacters(names_, name);
+  content.nameLength = static_cast<std::uint32_t>(names_.size()) - content.name;
+  content.text = static_cast<std::uint32_t>(used_);
+  content.textLength = static_cast<std::uint32_t>(texts_.size() - used_);
+  used_ = texts_.size();
+  return *std::pmr::polymorphic_allocator<>(&nodes_).new_object<LinuxXmlNode>(*this, type, content);
 }
 
 void LinuxXmlNode::nodeTypedValue(String& text) {
   text.clear();
-  if (type_ == Element || type_ == Document) {
+  if (type_ == Element && hasOneText()) {
+    appendCharacters(text, keepsBlanks_ ? first_->text() : trimmed(first_->text()));
+  } else if (type_ == Element || type_ == Document) {
     TextOfNodes texts(text);
     texts.addChildrenOf(*this);
     if (!keepsBlanks_) texts.trim();
-  } else if (type_ == ProcessingInstruction) {
-    appendCharacters(text, content().substr(content().find(' ') + 1));
   } else {
-    appendCharacters(text, content());
+    appendCharacters(text, this->text());
   }
 }
 

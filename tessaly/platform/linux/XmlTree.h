@@ -14,13 +14,20 @@ class XmlTree;
 /// A node of a tree; stands in the tree's storage and goes with it.
 class LinuxXmlNode final : public XmlNode {
  public:
-  /// `content` is an element's or instruction's name or a text's characters, by place and length in the
-  /// storage.
-  LinuxXmlNode(XmlTree& tree, Type type, std::uint32_t place, std::uint32_t length)
-      : tree_(&tree), type_(type), place_(place), length_(length) {}
+  /// What a node holds, by place and length in the tree's storage: the name of an element, the name and data
+  /// of an instruction, the characters of a text.
+  struct Content {
+    std::uint32_t name = 0;
+    std::uint32_t nameLength = 0;
+    std::uint32_t text = 0;
+    std::uint32_t textLength = 0;
+  };
+
+  LinuxXmlNode(XmlTree& tree, Type type, const Content& content)
+      : tree_(&tree), type_(type), content_(content) {}
 
   Long nodeType() override { return type_; }
-  void baseName(String& name) override;
+  std::u16string_view baseName() override;
   void nodeTypedValue(String& text) override;
   bool hasChildNodes() override { return first_ != nullptr; }
   XmlNodePtr firstChild() override { return XmlNodePtr(first_); }
@@ -43,7 +50,8 @@ class LinuxXmlNode final : public XmlNode {
 
  private:
   friend class TextOfNodes;
-  std::string_view content() const;
+  bool hasOneText() const { return first_ != nullptr && first_ == last_ && first_->type_ == Text; }
+  std::string_view text() const;
 
   XmlTree* tree_;
   LinuxXmlNode* parent_ = nullptr;
@@ -51,40 +59,55 @@ class LinuxXmlNode final : public XmlNode {
   LinuxXmlNode* last_ = nullptr;
   LinuxXmlNode* next_ = nullptr;
   Type type_;
-  std::uint32_t place_;
-  std::uint32_t length_;
+  Content content_;
   bool keepsBlanks_ = false;
   bool blanksBehind_ = false;
   bool blanksWithin_ = false;
 };
 
-/// A document's nodes and characters in two blocks of storage that grow.
+/// A document's nodes and what they hold, each kind in a block of storage that grows. Names are kept as they
+/// are asked for, in UTF-16; texts, of which only a part is ever asked for, as the parser gives them, in
+/// UTF-8.
 class XmlTree {
  public:
-  XmlTree() : root_(&add(XmlNode::Document, 0)) {}
+  XmlTree() : root_(&add(XmlNode::Document)) {}
   XmlTree(const XmlTree&) = delete;
   XmlTree& operator=(const XmlTree&) = delete;
 
   LinuxXmlNode& root() { return *root_; }
 
-  /// A new node whose content is all that was stored from `place` on.
-  LinuxXmlNode& add(XmlNode::Type type, std::size_t place) {
-    return *std::pmr::polymorphic_allocator<>(&nodes_).new_object<LinuxXmlNode>(
-        *this, type, static_cast<std::uint32_t>(place),
-        static_cast<std::uint32_t>(characters_.size() - place));
+  /// Makes room for a document of this many bytes.
+  void reserve(std::size_t size) { texts_.reserve(size); }
+
+  /// Whether there is more than a place can count, with room for what one document may still add at once.
+  bool isFull() const { return names_.size() > kMost || texts_.size() > kMost; }
+
+  /// Adds to the text of the node that comes next, or drops what was added.
+  void addText(std::string_view text) { texts_ += text; }
+  void dropText() { texts_.resize(used_); }
+  std::string_view pendingText() const { return std::string_view(texts_).substr(used_); }
+
+  /// A new node with a name, and with the text that was added since the last node.
+  LinuxXmlNode& add(XmlNode::Type type, std::string_view name = {});
+
+  std::u16string_view name(const LinuxXmlNode::Content& content) const {
+    return std::u16string_view(names_).substr(content.name, content.nameLength);
+  }
+  std::string_view text(const LinuxXmlNode::Content& content) const {
+    return std::string_view(texts_).substr(content.text, content.textLength);
   }
 
-  /// The characters of all nodes, in UTF-8.
-  std::string& characters() { return characters_; }
-
  private:
+  static constexpr std::size_t kMost = std::size_t{1} << 30U;
+
   std::pmr::monotonic_buffer_resource nodes_{8192};
-  std::string characters_;
+  String names_;
+  std::string texts_;
+  std::size_t used_ = 0;
   LinuxXmlNode* root_;
 };
 
-inline std::string_view LinuxXmlNode::content() const {
-  return std::string_view(tree_->characters()).substr(place_, length_);
-}
+inline std::u16string_view LinuxXmlNode::baseName() { return tree_->name(content_); }
+inline std::string_view LinuxXmlNode::text() const { return tree_->text(content_); }
 
 }  // namespace tessaly::platform

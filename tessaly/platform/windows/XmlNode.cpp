@@ -12,10 +12,11 @@ Long WindowsXmlNode::nodeType() {
   return type;
 }
 
-void WindowsXmlNode::baseName(String& name) {
+std::u16string_view WindowsXmlNode::baseName() {
   ComText text;
   node_->get_baseName(text.out());
-  name = text.view();
+  name_ = text.view();
+  return name_;
 }
 
 void WindowsXmlNode::nodeTypedValue(String& text) {

@@ -14,7 +14,7 @@ class WindowsXmlNode final : public XmlNode {
   static XmlNodePtr make(ComPtr<IXMLDOMNode> node);
 
   Long nodeType() override;
-  void baseName(String& name) override;
+  std::u16string_view baseName() override;
   void nodeTypedValue(String& text) override;
   bool hasChildNodes() override;
   XmlNodePtr firstChild() override;
@@ -29,6 +29,7 @@ class WindowsXmlNode final : public XmlNode {
   explicit WindowsXmlNode(ComPtr<IXMLDOMNode> node) : node_(std::move(node)) {}
 
   ComPtr<IXMLDOMNode> node_;
+  String name_;
 };
 
 }  // namespace tessaly::platform
