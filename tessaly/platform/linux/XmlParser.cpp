@@ -22,7 +22,7 @@ struct FreeParser {
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-std::string_view localName(std::string_view name) { return name.substr(name.rfind(kSeparator) + 1); }
+std::string_view localName(std::string_view name) { return name.substr(name.find(kSeparator) + 1); }
 
 /// Builds the tree from what Expat tells. No exception passes through Expat: it is kept and raised behind it.
 class TreeBuilder {

@@ -81,14 +81,22 @@ class TextOfNodes {
 };
 
 LinuxXmlNode& XmlTree::add(XmlNode::Type type, std::string_view name) {
-  LinuxXmlNode::Content content;
-  content.name = static_cast<std::uint32_t>(names_.size());
-  appendCharacters(names_, name);
-  content.nameLength = static_cast<std::uint32_t>(names_.size()) - content.name;
-  content.text = static_cast<std::uint32_t>(used_);
-  content.textLength = static_cast<std::uint32_t>(texts_.size() - used_);
+  const LinuxXmlNode::Place text{static_cast<std::uint32_t>(used_),
+                                 static_cast<std::uint32_t>(texts_.size() - used_)};
   used_ = texts_.size();
+  const LinuxXmlNode::Content content{name.empty() ? LinuxXmlNode::Place() : store(name), text};
   return *std::pmr::polymorphic_allocator<>(&nodes_).new_object<LinuxXmlNode>(*this, type, content);
+}
+
+LinuxXmlNode::Place XmlTree::store(std::string_view name) {
+  RecentName& recent = recentNames_[name.size() % recentNames_.size()];
+  if (recent.utf8 != name) {
+    recent.place.begin = static_cast<std::uint32_t>(names_.size());
+    appendCharacters(names_, name);
+    recent.place.length = static_cast<std::uint32_t>(names_.size()) - recent.place.begin;
+    recent.utf8 = name;
+  }
+  return recent.place;
 }
 
 void LinuxXmlNode::nodeTypedValue(String& text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory_resource>
 #include <string>
@@ -14,13 +15,16 @@ class XmlTree;
 /// A node of a tree; stands in the tree's storage and goes with it.
 class LinuxXmlNode final : public XmlNode {
  public:
+  struct Place {
+    std::uint32_t begin = 0;
+    std::uint32_t length = 0;
+  };
+
   /// What a node holds, by place and length in the tree's storage: the name of an element, the name and data
   /// of an instruction, the characters of a text.
   struct Content {
-    std::uint32_t name = 0;
-    std::uint32_t nameLength = 0;
-    std::uint32_t text = 0;
-    std::uint32_t textLength = 0;
+    Place name;
+    Place text;
   };
 
   LinuxXmlNode(XmlTree& tree, Type type, const Content& content)
@@ -90,24 +94,33 @@ class XmlTree {
   /// A new node with a name, and with the text that was added since the last node.
   LinuxXmlNode& add(XmlNode::Type type, std::string_view name = {});
 
-  std::u16string_view name(const LinuxXmlNode::Content& content) const {
-    return std::u16string_view(names_).substr(content.name, content.nameLength);
+  std::u16string_view name(LinuxXmlNode::Place place) const {
+    return {names_.data() + place.begin, place.length};
   }
-  std::string_view text(const LinuxXmlNode::Content& content) const {
-    return std::string_view(texts_).substr(content.text, content.textLength);
+  std::string_view text(LinuxXmlNode::Place place) const {
+    return {texts_.data() + place.begin, place.length};
   }
 
  private:
+  /// The name that was stored last of those of one length: the few that a document has come again and again.
+  struct RecentName {
+    std::string utf8;
+    LinuxXmlNode::Place place;
+  };
+
+  LinuxXmlNode::Place store(std::string_view name);
+
   static constexpr std::size_t kMost = std::size_t{1} << 30U;
 
   std::pmr::monotonic_buffer_resource nodes_{8192};
   String names_;
+  std::array<RecentName, 16> recentNames_;
   std::string texts_;
   std::size_t used_ = 0;
   LinuxXmlNode* root_;
 };
 
-inline std::u16string_view LinuxXmlNode::baseName() { return tree_->name(content_); }
-inline std::string_view LinuxXmlNode::text() const { return tree_->text(content_); }
+inline std::u16string_view LinuxXmlNode::baseName() { return tree_->name(content_.name); }
+inline std::string_view LinuxXmlNode::text() const { return tree_->text(content_.text); }
 
 }  // namespace tessaly::platform
