@@ -5,20 +5,24 @@ set(INSTALL_GTEST OFF CACHE INTERNAL "")
 set(BUILD_GMOCK OFF CACHE INTERNAL "")
 add_subdirectory("${TESSALY_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
-# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>]): one program for tests, which run in the
-# project's folder. The name is the ctest label where no other is told, and LIBRARY is Tessaly::core.
+# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>]): one program for tests,
+# which run in the project's folder. Where nothing else is told, LIBRARY is Tessaly::core, the name is the ctest
+# label, and a test may take two minutes.
 function(tessaly_test name)
-  cmake_parse_arguments(arg "" "LIBRARY;LABEL" "SOURCES" ${ARGN})
+  cmake_parse_arguments(arg "" "LIBRARY;LABEL;TIMEOUT" "SOURCES" ${ARGN})
   if(NOT arg_LIBRARY)
     set(arg_LIBRARY Tessaly::core)
   endif()
   if(NOT arg_LABEL)
     set(arg_LABEL ${name})
   endif()
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
   set(target tests-${name})
   add_executable(${target} ${arg_SOURCES})
   tessaly_options(${target})
   target_link_libraries(${target} PRIVATE tests-support ${arg_LIBRARY} GTest::gtest_main)
   gtest_discover_tests(${target} TEST_PREFIX "${arg_LABEL}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
-                       DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT 120)
+                       DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT ${arg_TIMEOUT})
 endfunction()

@@ -72,7 +72,10 @@ double beyondRange(std::string_view number) {
   const std::string_view mantissa = number.substr(0, e);
   const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
   const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
-  return point - first + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+  // An exponent beyond any text's length decides alone.
+  constexpr long long longest = 1'000'000'000'000;
+  return point - first + std::clamp(exponent, -longest, longest) > 0 ? std::numeric_limits<double>::infinity()
+                                                                     : 0.0;
 }
 
 double valueOf(const std::string& number) {

@@ -29,8 +29,8 @@ class TESSALY_API Variant {
 
   const Value& value() const { return value_; }
 
-  /// The value as a number: -1 or 0 for a Boolean, the nearest integer for a floating number, the number that
-  /// a text holds. Raises error 13 where a text is no number, and error 6 outside 32 bits.
+  /// The value as a number: a Boolean's own number, the nearest integer for a floating number, the number
+  /// that a text holds. Raises error 13 where a text is no number, and error 6 outside 32 bits.
   Long toLong() const;
 
  private:

@@ -19,10 +19,17 @@ std::size_t find(std::u16string_view text, std::u16string_view word, std::size_t
 
 /// Puts `replacement` in the place of every `word`, from the front; what comes in is not looked at again.
 void replaceAll(String& text, std::u16string_view word, std::u16string_view replacement) {
-  for (auto place = find(text, word, 0); place != text.size();
-       place = find(text, word, place + replacement.size())) {
-    text.replace(place, word.size(), replacement);
+  std::size_t place = find(text, word, 0);
+  if (place == text.size()) return;
+  String result;
+  result.reserve(text.size() + replacement.size());
+  std::size_t from = 0;
+  for (; place != text.size(); place = find(text, word, from)) {
+    result.append(text, from, place - from).append(replacement);
+    from = place + word.size();
   }
+  result.append(text, from);
+  text = std::move(result);
 }
 
 String withStringNumber(String text, Long n) { return std::move(text) + u'[' + decimal(n + 1) + u']'; }

@@ -61,8 +61,8 @@ class TESSALY_API CResources {
 
   /// Chooses by number: its file, or the first one of the same primary language; with neither nothing
   /// changes. A negative number means the language of its positive and makes every text end in its string
-  /// number, as in "Open[13]"; the next call with another number takes that back. Error 6 for the lowest
-  /// number of all.
+  /// number, as in "Open[13]"; the next call with a number that is not negative takes that back. Error 6 for
+  /// the lowest number of all.
   virtual void SetLangOrCountry(Long id);
 
   /// The identity that a language file must carry, compared to the letter.
@@ -81,8 +81,8 @@ class TESSALY_API CResources {
   /// The number that was asked for, or 2057 where the built-in texts stand alone; 0 before the first choice.
   virtual Long lang() const;
 
-  /// The fonts that the file read last names; empty and 0 where it names none. Any look for files clears
-  /// them.
+  /// The fonts that the file read last names; empty and 0 where it names none. Reading any file, also to list
+  /// it, clears them first.
   virtual String reportFontName() const;
   virtual String gridFontName() const;
   virtual String mailFontName() const;
@@ -109,6 +109,7 @@ class TESSALY_API CResources {
   void readGeneral(platform::XmlNode& section);
   void readFonts(platform::XmlNode& section);
   void readString(platform::XmlNode& section, String& text);
+  bool isListed(Long position) const;
   std::optional<Long> listedFor(Long id) const;
   bool takeFile(Long id);
   void readChosenFile();

@@ -31,10 +31,10 @@ void CResources::ScanLanguageFiles() {
   for (const String& name : files.list(folder, u".xml")) {
     String path = folder + name;
     if (LoadLanguageFile(path, True)) continue;
-    ++langCount_;
     langNames_.push_back(fileLang_);
     langFiles_.push_back(std::move(path));
     langIDs_.push_back(fileLangID_);
+    ++langCount_;
   }
 }
 
@@ -45,15 +45,15 @@ Long CResources::numberOfLangs() {
 
 String CResources::resLang(Long position) {
   ScanLanguageFiles();
-  const bool listed = position >= 1 && position <= langCount_;
-  return listed ? langNames_[static_cast<std::size_t>(position - 1)] : String();
+  return isListed(position) ? langNames_[static_cast<std::size_t>(position - 1)] : String();
 }
 
 Long CResources::resLangID(Long position) {
   ScanLanguageFiles();
-  const bool listed = position >= 1 && position <= langCount_;
-  return listed ? langIDs_[static_cast<std::size_t>(position - 1)] : 0;
+  return isListed(position) ? langIDs_[static_cast<std::size_t>(position - 1)] : 0;
 }
+
+bool CResources::isListed(Long position) const { return position >= 1 && position <= langCount_; }
 
 void CResources::lang(Long id) {
   currentLang_ = id;

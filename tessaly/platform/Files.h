@@ -17,7 +17,7 @@ struct Files {
   /// What stands between a folder and a name: a backslash or a slash.
   virtual char16_t separator() = 0;
 
-  /// All bytes of a file, or nothing where it is missing, no file, or not to be read.
+  /// All bytes of a file, or nothing where it is missing, no file, over 2 GiB, or not to be read.
   virtual std::optional<std::string> read(std::u16string_view path) = 0;
 
   /// The names in a folder that end as told, in any case, sorted by their upper-cased form. Normal files

@@ -67,7 +67,7 @@ struct XmlDocument {
   /// The root element, or none.
   virtual XmlNodePtr documentElement() = 0;
 
-  /// A text node that stands nowhere yet; the document keeps it.
+  /// A text node that stands nowhere yet, never none; the document keeps it.
   virtual XmlNodePtr createTextNode(std::u16string_view text) = 0;
 };
 

@@ -83,6 +83,9 @@ TEST(NumberText, TakesNumbersThatADoubleCannotHoldForInfiniteOrZero) {
   EXPECT_EQ(parseNumber(u"." + zeros + u"1e800", u"."), kInfinity);
   EXPECT_EQ(parseNumber(u"1" + zeros + u"e-800", u"."), 0.0);
   EXPECT_EQ(parseNumber(u"0e999", u"."), 0.0);
+  // The exponents at the ends of 64 bits once ran over when the fraction's place was added.
+  EXPECT_EQ(parseNumber(u"1e9223372036854775807", u"."), kInfinity);
+  EXPECT_EQ(parseNumber(u"0.001e-9223372036854775808", u"."), 0.0);
 }
 
 TEST(NumberText, ReadsAPlainNumberByAShortWay) {

@@ -28,6 +28,7 @@ TEST(Variants, KeepTheirKindsApart) {
 TEST(Variants, GiveANumberForWhatIsOne) {
   EXPECT_EQ(Variant(True).toLong(), -1);
   EXPECT_EQ(Variant(False).toLong(), 0);
+  EXPECT_EQ(Variant(Boolean(5)).toLong(), 5);
   EXPECT_EQ(Variant(std::int16_t{-5}).toLong(), -5);
   EXPECT_EQ(Variant(2147483647).toLong(), 2147483647);
   EXPECT_EQ(Variant(2.5).toLong(), 2);

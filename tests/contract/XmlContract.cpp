@@ -188,6 +188,11 @@ TEST_P(XmlOperations, RefusesEntityBombsAndDeepNesting) {
   }
 }
 
+TEST_P(XmlOperations, CreatesATextNodeOfItsOwnTextAfterALoadThatFailed) {
+  const auto document = loaded(world_->put(u"broken.xml", "<r>leftover"), false);
+  EXPECT_EQ(textOf(*document->createTextNode(u"own")), "own");
+}
+
 TEST_P(XmlOperations, KeepsDocumentsApart) {
   const auto first = loaded(world_->put(u"first.xml", "<r>1</r>"), true);
   const auto second = loaded(world_->put(u"second.xml", "<r>2</r>"), true);

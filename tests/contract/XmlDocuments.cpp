@@ -39,6 +39,10 @@ std::vector<XmlRow> texts() {
        "a=  x\n |b=  y  |d= |", ""},
       {"SpacePreserveReachesDownToDefault",
        "<r xml:space=\"preserve\"><a> x </a><b xml:space=\"default\"> y </b></r>", "a= x |b=y|", ""},
+      {"ADataTypeChangesNoText",
+       "<r xmlns:dt=\"urn:schemas-microsoft-com:datatypes\"><a dt:dt=\"i4\"> 1 </a><b "
+       "dt:dt=\"boolean\">1</b></r>",
+       "a=1|b=1|", ""},
       {"SpaceOfAnotherValueIsNone", "<r><a xml:space=\"other\"> x </a></r>", "a=x|", ""},
       {"TextBesideChildrenIsSteppedOver", "<r>t<a>x</a>u<!--c--><b>y</b></r>", "a=x|b=y|", ""},
   };
@@ -78,6 +82,10 @@ std::vector<XmlRow> references() {
        "a=s|b=x s y|c=|", ""},
       {"MarkupOfAnEntity", "<!DOCTYPE r [<!ENTITY m \"<b>in</b> side\">]><r><a>&m;</a></r>", "a=in side|",
        "it loses blanks around markup that an entity brings"},
+      {"EntitiesNestedFourDeep",
+       "<!DOCTYPE r [<!ENTITY a \"x\"><!ENTITY b \"&a;&a;\"><!ENTITY c \"&b;&b;\"><!ENTITY d "
+       "\"&c;&c;\">]><r><a>&d;</a></r>",
+       "a=xxxxxxxx|", "it refuses entities that are nested four deep"},
       {"ParameterEntitiesOfTheDocument",
        "<!DOCTYPE r [<!ENTITY % p \"<!ENTITY n 'in'>\">%p;]><r><a>x&n;y</a></r>", "a=xiny|", ""},
       {"ADocumentTypeIsNotHeldAgainstTheDocument",

@@ -70,6 +70,9 @@ std::vector<XmlRow> unicode() {
   return {
       {"Utf8WithoutAnyDeclaration", "<r><a>é日</a></r>", "a=é日|", ""},
       {"Utf8Declared", declared("UTF-8", "é日"), "a=é日|", ""},
+      {"AStylesheetIsNoDeclaration",
+       "<?xml-stylesheet href=\"encoding.xsl\" type=\"text/xsl\"?><r><a>é</a></r>", "a=é|", ""},
+      {"AnEncodingOfAStylesheetIsNone", "<?xml-stylesheet encoding=\"koi8-r\"?><r><a>é</a></r>", "a=é|", ""},
       {"Utf8DeclaredInSmallLetters", declared("utf-8", "é日"), "a=é日|", ""},
       {"Utf8Marked", marked(kUtf8Mark, "<r><a>é日</a></r>"), "a=é日|", ""},
       {"Utf8MarkedAndDeclared", marked(kUtf8Mark, declared("UTF-8", "é日")), "a=é日|", ""},

@@ -102,6 +102,38 @@ TEST_F(HostileFilesTest, ReadsManyAttributes) {
   EXPECT_EQ(firstText(resources_), "behind");
 }
 
+TEST_F(HostileFilesTest, EndsAChainOfEntitiesWithoutItsStack) {
+  // Each is the one before; the parser goes through them on its stack.
+  std::string chain = "<!DOCTYPE LANGUAGE [<!ENTITY e0 \"x\">";
+  for (int i = 1; i <= 100'000; ++i)
+    chain += "<!ENTITY e" + std::to_string(i) + " \"&e" + std::to_string(i - 1) + ";\">";
+  load(chain + "]>" + document(kHeader + text(1, "&e100000;")));
+  EXPECT_EQ(firstText(resources_), "&Cancel");
+}
+
+TEST_F(HostileFilesTest, EndsAttributesThatTheDocumentTypeAdds) {
+  std::string type = "<!DOCTYPE LANGUAGE [<!ATTLIST e";
+  for (int i = 0; i < 900; ++i) type += " a" + std::to_string(i) + " CDATA 'x'";
+  std::string elements;
+  for (int i = 0; i < 100'000; ++i) elements += "<e/>";
+  load(type + ">]>" + document(kHeader + elements + text(1, "un")));
+  EXPECT_EQ(firstText(resources_), tests::underWine() ? "un" : "&Cancel");
+}
+
+TEST_F(HostileFilesTest, EndsADocumentTypeOfManyAttributes) {
+  std::string type = "<!DOCTYPE LANGUAGE [<!ATTLIST e";
+  for (int i = 0; i < 80'000; ++i) type += " a" + std::to_string(i) + " CDATA 'x'";
+  load(type + ">]>" + document(kHeader + text(1, "un")));
+  EXPECT_EQ(firstText(resources_), tests::underWine() ? "un" : "&Cancel");
+}
+
+TEST_F(HostileFilesTest, FillsATextOfManyPlaceholders) {
+  std::string many;
+  for (int i = 0; i < 300'000; ++i) many += "%a1";
+  load(document(kHeader + text(1, many)));
+  EXPECT_EQ(resources_.resWithArg(0, u"longer", u"x").size(), 300'000U * 6);
+}
+
 TEST_F(HostileFilesTest, ReadsALongNumber) {
   load(document(kHeader + "<STRING><ID>" + std::string(1'000'000, '0') + "1</ID><VALUE>x</VALUE></STRING>"));
   EXPECT_EQ(firstText(resources_), "x");

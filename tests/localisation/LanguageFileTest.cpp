@@ -230,12 +230,24 @@ TEST_F(LanguageFileTest, LeavesNothingOfTheLanguageBefore) {
   EXPECT_EQ(resources_.gridFontName(), u"");
 }
 
-TEST_F(LanguageFileTest, ChangesNeitherLangNorTheList) {
+TEST_F(LanguageFileTest, ChangesNeitherLangNorTheListWhetherTheReadSucceedsOrFails) {
+  folder_.put(u"chosen.xml", document(kFrench + text(1, "chosen")));
   resources_.resourcesPath(u"/texts");
-  load(document(kFrench + text(1, "Annuler")));
-  EXPECT_EQ(resources_.lang(), 0);
-  EXPECT_EQ(resources_.langName(), u"");
-  EXPECT_EQ(res(0), "Annuler");
+  resources_.lang(1036);
+  const std::string files[] = {document(general("Deutsch", 1031) + text(1, "loaded")), "<broken",
+                               document(general("Deutsch", 1031, "other")),
+                               document(general("Deutsch", 1031) + "<STRING><ID>x</ID></STRING>")};
+  for (const std::string& file : files) {
+    load(file);
+    EXPECT_NE(res(0), "chosen");
+    EXPECT_EQ(resources_.lang(), 1036);
+    EXPECT_EQ(shown(resources_.langName()), "Français");
+    EXPECT_EQ(resources_.numberOfLangs(), 1);
+  }
+  resources_.LoadXMLFile(u"/texts/missing.xml");
+  EXPECT_EQ(res(0), builtIn(0));
+  EXPECT_EQ(resources_.lang(), 1036);
+  EXPECT_EQ(shown(resources_.langName()), "Français");
 }
 
 TEST_F(LanguageFileTest, DoesNotLookForOtherFiles) {

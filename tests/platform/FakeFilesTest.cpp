@@ -31,6 +31,12 @@ TEST(FakeFiles, ListOnlyTheFolderItself) {
   EXPECT_EQ(files.list(u"", u".xml"), Names{u"a.xml"});
 }
 
+TEST(FakeFiles, StandAPathThatIsAFolder) {
+  Files files;
+  files.put(u"/texts/", "x");
+  EXPECT_TRUE(files.list(u"/texts", u"").empty());
+}
+
 TEST(FakeFiles, ReplaceAndRemove) {
   Files files;
   files.put(u"/a.xml", "old");

@@ -53,7 +53,7 @@ std::vector<String> Files::list(std::u16string_view folder, std::u16string_view 
   for (const auto& [path, bytes] : files_) {
     if (listFails_ || hidden_.contains(path) || !path.starts_with(prefix)) continue;
     String name = path.substr(prefix.size());
-    const bool inFolder = name.find_first_of(kSeparators) == String::npos;
+    const bool inFolder = !name.empty() && name.find_first_of(kSeparators) == String::npos;
     if (inFolder && name.front() != u'.' && upperCased(name).ends_with(upperCased(ending)))
       names.push_back(name);
   }

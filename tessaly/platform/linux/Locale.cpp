@@ -3,6 +3,7 @@
 #include <unicode/dcfmtsym.h>
 #include <unicode/locid.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <mutex>
 #include <string>
@@ -28,20 +29,44 @@ std::string chosenLocale(const char* category) {
   return {};
 }
 
-/// The locale as ICU has it, with the country that a language alone most likely means.
+/// The script that a modifier such as @latin asks for; empty where it asks for something else.
+std::string scriptOf(const std::string& modifier) {
+  if (modifier == "latin") return "Latn";
+  if (modifier == "cyrillic") return "Cyrl";
+  if (modifier == "devanagari") return "Deva";
+  return {};
+}
+
+/// The locale as ICU has it.
 icu::Locale icuLocale(const std::string& name) {
-  icu::Locale locale = icu::Locale::createCanonical(name.c_str());
-  if (*locale.getCountry() != '\0') return locale;
+  const auto at = std::min(name.find('@'), name.size());
+  const icu::Locale plain = icu::Locale::createCanonical(name.substr(0, at).c_str());
+  const std::string script = scriptOf(name.substr(std::min(at + 1, name.size())));
+  if (script.empty()) return plain;
+  return {(std::string(plain.getLanguage()) + "_" + script + "_" + plain.getCountry()).c_str()};
+}
+
+/// Whether a number is of a language in a country and not of a language alone.
+bool isSpecific(Long lcid) {
+  const Long country = (lcid >> 10) & 0x3F;
+  return country != 0 && country < 0x1E;
+}
+
+/// ICU has some numbers by script and some without; the country is the one that a language most likely means.
+Long lcidOf(const icu::Locale& locale) {
+  icu::Locale full = locale;
   UErrorCode error = U_ZERO_ERROR;
-  locale.addLikelySubtags(error);
-  return {locale.getLanguage(), locale.getCountry()};
+  full.addLikelySubtags(error);
+  const auto withScript = static_cast<Long>(full.getLCID());
+  const auto withoutScript = static_cast<Long>(icu::Locale(full.getLanguage(), full.getCountry()).getLCID());
+  return isSpecific(withScript) ? withScript : withoutScript;
 }
 
 class LinuxLocale final : public Locale {
  public:
   Long GetUserDefaultLCID() override {
     const std::string name = chosenLocale("LC_MESSAGES");
-    return name.empty() ? kEnglishUnitedStates : static_cast<Long>(icuLocale(name).getLCID());
+    return name.empty() ? kEnglishUnitedStates : lcidOf(icuLocale(name));
   }
 
   String decimalSeparator() override {

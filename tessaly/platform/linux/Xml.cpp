@@ -35,6 +35,7 @@ class LinuxXmlDocument final : public XmlDocument {
   }
 
   XmlNodePtr createTextNode(std::u16string_view text) override {
+    tree_.dropText();  // what a failed parse may have left
     tree_.addText(toUtf8(text));
     return XmlNodePtr(&tree_.add(XmlNode::Text));
   }

@@ -27,7 +27,8 @@ bool sameName(std::string_view left, std::string_view right) {
 
 /// The encoding that an XML declaration names, in a text of ASCII's kind; empty where it names none.
 std::string_view declaredEncoding(std::string_view document) {
-  if (!document.starts_with("<?xml")) return {};
+  // A blank must follow, or it is an instruction such as <?xml-stylesheet?>.
+  if (!document.starts_with("<?xml") || document.substr(5, 1).find_first_of(" \t\r\n") != 0) return {};
   std::string_view rest = document.substr(0, kLongestDeclaration);
   rest = rest.substr(0, rest.find("?>"));
   const auto word = rest.find("encoding");

@@ -15,19 +15,21 @@ namespace {
 constexpr char kSeparator = '\f';
 constexpr std::string_view kSpaceAttribute = "http://www.w3.org/XML/1998/namespace\fspace";
 constexpr int kDeepest = 256;
+/// Of entities and attributes in a document type. Expat goes through a chain of entities on the stack, and
+/// looks through all attributes for each that is declared.
+constexpr int kMostDeclarations = 1000;
 
 struct FreeParser {
   void operator()(XML_ParserStruct* parser) const { XML_ParserFree(parser); }
 };
-
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 std::string_view localName(std::string_view name) { return name.substr(name.find(kSeparator) + 1); }
 
 /// Builds the tree from what Expat tells. No exception passes through Expat: it is kept and raised behind it.
 class TreeBuilder {
  public:
-  TreeBuilder(XML_Parser parser, XmlTree& tree) : parser_(parser), tree_(&tree), open_(&tree.root()) {}
+  TreeBuilder(XML_Parser parser, XmlTree& tree, std::size_t documentSize)
+      : parser_(parser), tree_(&tree), open_(&tree.root()), attributesLeft_(documentSize) {}
 
   void registerHandlers() {
     XML_SetUserData(parser_, this);
@@ -37,6 +39,8 @@ class TreeBuilder {
     XML_SetCommentHandler(parser_, onComment);
     XML_SetProcessingInstructionHandler(parser_, onInstruction);
     XML_SetXmlDeclHandler(parser_, onDeclaration);
+    XML_SetEntityDeclHandler(parser_, onEntity);
+    XML_SetAttlistDeclHandler(parser_, onAttribute);
     // For parameter entities of the document's own; without a handler for external ones, none of those is
     // read.
     XML_SetParamEntityParsing(parser_, XML_PARAM_ENTITY_PARSING_ALWAYS);
@@ -90,6 +94,25 @@ class TreeBuilder {
       XML_StopParser(builder.parser_, XML_FALSE);
   }
 
+  static void onEntity(void* self, const char* /*name*/, int /*isParameter*/, const char* /*value*/,
+                       int /*length*/, const char* /*base*/, const char* /*system*/, const char* /*publicId*/,
+                       const char* /*notation*/) {
+    static_cast<TreeBuilder*>(self)->countDeclaration();
+  }
+  static void onAttribute(void* self, const char* /*element*/, const char* /*attribute*/,
+                          const char* /*type*/, const char* /*value*/, int /*required*/) {
+    static_cast<TreeBuilder*>(self)->countDeclaration();
+  }
+
+  void countDeclaration() {
+    if (++declarations_ > kMostDeclarations) XML_StopParser(parser_, XML_FALSE);
+  }
+
+  /// Attributes that a document type adds cost no bytes in the document, so they could be without end.
+  void countAttribute() {
+    if (attributesLeft_-- == 0) XML_StopParser(parser_, XML_FALSE);
+  }
+
   void start(const char* name, const char** attributes) {
     endText();
     if (depth_++ > kDeepest) {
@@ -99,6 +122,7 @@ class TreeBuilder {
     LinuxXmlNode& element = addNode(XmlNode::Element, localName(name));
     element.keepBlanks(open_->keepsBlanks());
     for (; *attributes != nullptr; attributes += 2) {
+      countAttribute();
       if (*attributes == kSpaceAttribute) element.keepBlanks(attributes[1] == std::string_view("preserve"));
     }
     open_ = &element;
@@ -114,7 +138,7 @@ class TreeBuilder {
   void endText() {
     const std::string_view text = tree_->pendingText();
     if (text.empty()) return;
-    const bool blank = std::all_of(text.begin(), text.end(), isBlank);
+    const bool blank = std::all_of(text.begin(), text.end(), isXmlBlank);
     if (!blank || open_->keepsBlanks()) {
       addNode(XmlNode::Text);
     } else {
@@ -139,6 +163,8 @@ class TreeBuilder {
   XmlTree* tree_;
   LinuxXmlNode* open_;
   int depth_ = 0;
+  int declarations_ = 0;
+  std::size_t attributesLeft_;
   std::exception_ptr error_;
 };
 
@@ -149,7 +175,7 @@ bool parseXml(std::string_view document, XmlTree& tree) {
   const std::unique_ptr<XML_ParserStruct, FreeParser> parser(XML_ParserCreateNS("UTF-8", kSeparator));
   if (!parser) throw std::bad_alloc();
   tree.reserve(document.size());
-  TreeBuilder builder(parser.get(), tree);
+  TreeBuilder builder(parser.get(), tree, document.size());
   builder.registerHandlers();
   const XML_Status status =
       XML_Parse(parser.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);

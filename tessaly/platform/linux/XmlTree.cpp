@@ -7,12 +7,9 @@
 namespace tessaly::platform {
 namespace {
 
-bool isBlank(char16_t c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n'; }
-
-template <class Text>
-Text trimmed(Text text) {
-  while (!text.empty() && isBlank(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
-  while (!text.empty() && isBlank(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && isXmlBlank(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
+  while (!text.empty() && isXmlBlank(static_cast<unsigned char>(text.back()))) text.remove_suffix(1);
   return text;
 }
 
@@ -51,10 +48,10 @@ class TextOfNodes {
 
   void trim() {
     const auto first =
-        static_cast<std::size_t>(std::find_if_not(text_->begin(), text_->end(), isBlank) - text_->begin());
+        static_cast<std::size_t>(std::find_if_not(text_->begin(), text_->end(), isXmlBlank) - text_->begin());
     const std::size_t from = std::min(first, keptFrom_);
     std::size_t to = text_->size();
-    while (to > std::max(from, keptTo_) && isBlank((*text_)[to - 1])) --to;
+    while (to > std::max(from, keptTo_) && isXmlBlank((*text_)[to - 1])) --to;
     text_->resize(to);
     text_->erase(0, from);
   }

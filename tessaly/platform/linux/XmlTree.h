@@ -12,6 +12,8 @@ namespace tessaly::platform {
 
 class XmlTree;
 
+constexpr bool isXmlBlank(char32_t c) { return c == U' ' || c == U'\t' || c == U'\r' || c == U'\n'; }
+
 /// A node of a tree; stands in the tree's storage and goes with it.
 class LinuxXmlNode final : public XmlNode {
  public:

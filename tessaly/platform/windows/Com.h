@@ -40,6 +40,7 @@ ComPtr<Interface> taken(Call call) {
   Interface* object = nullptr;
   const HRESULT result = call(&object);
   ComPtr<Interface> owned(object);
+  if (result == E_OUTOFMEMORY) throw std::bad_alloc();
   return result == S_OK ? std::move(owned) : nullptr;
 }
 

@@ -13,6 +13,10 @@ namespace tessaly::platform {
 namespace {
 
 constexpr CLSID kDomDocument = {0xF6D90F11, 0x9C73, 0x11D3, {0xB3, 0x2E, 0x00, 0xC0, 0x4F, 0x99, 0x0B, 0xB4}};
+/// The newer form of the document's interface; the import library has no name for it.
+constexpr IID kDomDocument2 = {0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+/// Levels of elements below the root.
+constexpr int kDeepest = 256;
 
 /// Bytes as the model takes them.
 class ByteArray {
@@ -43,14 +47,14 @@ class HostileTree {
     if (levelsLeft < 0) return true;
     for (XmlNode& child : node.childNodes()) {
       const Long type = child.nodeType();
-      if (type == NODE_ENTITY_REFERENCE && ++references_ > mostReferences_) return true;
-      if (type == XmlNode::Element && isHostile(child, levelsLeft - 1)) return true;
+      const bool isReference = type == NODE_ENTITY_REFERENCE;
+      if (isReference && ++references_ > mostReferences_) return true;
+      if ((isReference || type == XmlNode::Element) && isHostile(child, levelsLeft - 1)) return true;
     }
     return false;
   }
 
  private:
-  static constexpr int kDeepest = 256;
   /// A reference brings at most the whole document.
   static constexpr std::size_t kMostText = std::size_t{256} << 20U;
 
@@ -71,7 +75,9 @@ class WindowsXmlDocument final : public XmlDocument {
           return CoCreateInstance(kDomDocument, nullptr, CLSCTX_INPROC_SERVER, IID_IXMLDOMDocument,
                                   reinterpret_cast<void**>(out));
         })) {
-    if (document_) document_->put_resolveExternals(VARIANT_FALSE);
+    if (!document_) return;
+    document_->put_resolveExternals(VARIANT_FALSE);
+    boundDepth();
   }
 
   void async(bool value) override { document_->put_async(value ? VARIANT_TRUE : VARIANT_FALSE); }
@@ -98,12 +104,28 @@ class WindowsXmlDocument final : public XmlDocument {
 
   XmlNodePtr createTextNode(std::u16string_view text) override {
     const ComText data(text);
-    return WindowsXmlNode::make(taken<IXMLDOMNode>([&](IXMLDOMNode** out) {
+    auto node = taken<IXMLDOMNode>([&](IXMLDOMNode** out) {
       return document_->createTextNode(data.get(), reinterpret_cast<IXMLDOMText**>(out));
-    }));
+    });
+    if (!node) throw std::bad_alloc();
+    return WindowsXmlNode::make(std::move(node));
   }
 
  private:
+  /// So that the parser itself does not go down with its stack; where it does not know the property, it has a
+  /// bound.
+  void boundDepth() {
+    const auto extended = taken<IXMLDOMDocument2>([this](IXMLDOMDocument2** out) {
+      return document_->QueryInterface(kDomDocument2, reinterpret_cast<void**>(out));
+    });
+    if (!extended) return;
+    const ComText name(u"MaxElementDepth");
+    VARIANT depth{};
+    depth.vt = VT_I4;
+    depth.lVal = kDeepest + 1;
+    extended->setProperty(name.get(), depth);
+  }
+
   bool parse(const std::string& bytes) {
     const ByteArray source(bytes);
     VARIANT_BOOL wellFormed = VARIANT_FALSE;

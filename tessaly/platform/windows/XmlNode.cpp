@@ -20,13 +20,11 @@ std::u16string_view WindowsXmlNode::baseName() {
 }
 
 void WindowsXmlNode::nodeTypedValue(String& text) {
-  VARIANT value;
-  VariantInit(&value);
-  text.clear();
-  if (SUCCEEDED(node_->get_nodeTypedValue(&value)) && value.vt == VT_BSTR) {
-    text.assign(reinterpret_cast<const char16_t*>(value.bstrVal), SysStringLen(value.bstrVal));
-  }
-  VariantClear(&value);
+  // The text itself, which is the typed value of a node without a data type: no attribute is to make it
+  // another.
+  ComText value;
+  node_->get_text(value.out());
+  text = value.view();
 }
 
 bool WindowsXmlNode::hasChildNodes() {

@@ -47,11 +47,16 @@ class LinuxLocaleTest : public testing::Test {
 };
 
 TEST_F(LinuxLocaleTest, HasTheNumbersOfWindows) {
-  const std::pair<const char*, Long> rows[] = {
-      {"fr_FR.UTF-8", 1036},  {"fr_CA.UTF-8", 3084}, {"de_DE@euro", 1031},  {"de_AT.ISO-8859-1", 3079},
-      {"en_GB", 2057},        {"en_US.utf8", 1033},  {"es_ES.UTF-8", 3082}, {"pl_PL.UTF-8", 1045},
-      {"ru_RU.KOI8-R", 1049}, {"el_GR.UTF-8", 1032}, {"ja_JP.eucJP", 1041}, {"zh_CN.GB18030", 2052},
-      {"zh_TW.Big5", 1028},   {"pt_BR.UTF-8", 1046}, {"fr", 1036}};
+  const std::pair<const char*, Long> rows[] = {{"fr_FR.UTF-8", 1036},  {"fr_CA.UTF-8", 3084},
+                                               {"de_DE@euro", 1031},   {"de_AT.ISO-8859-1", 3079},
+                                               {"en_GB", 2057},        {"en_US.utf8", 1033},
+                                               {"es_ES.UTF-8", 3082},  {"pl_PL.UTF-8", 1045},
+                                               {"ru_RU.KOI8-R", 1049}, {"el_GR.UTF-8", 1032},
+                                               {"ja_JP.eucJP", 1041},  {"zh_CN.GB18030", 2052},
+                                               {"zh_TW.Big5", 1028},   {"pt_BR.UTF-8", 1046},
+                                               {"ar_SA.UTF-8", 1025},  {"fr", 1036},
+                                               {"sr_RS.UTF-8", 10266}, {"sr_RS.UTF-8@latin", 9242},
+                                               {"uz_UZ.UTF-8", 1091},  {"uz_UZ.UTF-8@cyrillic", 2115}};
   for (const auto& [locale, lcid] : rows) EXPECT_EQ(lcidOf(locale), lcid) << locale;
 }
 

@@ -16,7 +16,8 @@ TEST(XmlEncodings, FindADeclarationOnlyWhereItBelongs) {
   for (const std::string_view text :
        {"<r encoding=\"windows-1252\">\xE9</r>", "<?xml version=\"1.0\"?><r>encoding=\"koi8-r\"</r>",
         " <?xml version=\"1.0\" encoding=\"windows-1252\"?><r/>", "<?xml encoding",
-        "<?xml encoding=", "<?xml encoding=\"", "<?xml encoding=\"koi8-r", "<?xml encoding=\"koi8-r'?>"}) {
+        "<?xml encoding=", "<?xml encoding=\"", "<?xml encoding=\"koi8-r", "<?xml encoding=\"koi8-r'?>",
+        "<?xml-stylesheet encoding=\"koi8-r\"?><r/>"}) {
     EXPECT_EQ(xmlInUtf8(std::string(text)), text);
   }
 }
