@@ -1,0 +1,34 @@
+# shellcheck shell=bash disable=SC2154
+# Wine for the tests: a prefix of the build's own, without a display, and a server that stays while they run.
+export WINEPREFIX="$projectRoot/build/wine" WINEDEBUG=-all
+
+# Other locales than a UTF-8 one would hide files whose names are not ASCII. A display would let a crash show a
+# dialog that nobody answers.
+useWineEnvironment() {
+  export LC_ALL=C.UTF-8
+  unset DISPLAY WAYLAND_DISPLAY
+}
+
+# A server that an interrupted run has left behind goes first, and a prefix that it left half made.
+prepareWine() {
+  stopWineServer
+  if [[ ! -f "$WINEPREFIX/complete" ]]; then
+    rm -rf "$WINEPREFIX"
+    wineboot -i && wineserver -w && touch "$WINEPREFIX/complete"
+  fi
+}
+
+# Without the waiting server each test would pay for a start of Wine.
+warmWine() { prepareWine && wineserver -p && wine cmd /c exit; }
+
+# From here on the server goes when the script ends, however it ends.
+startWine() {
+  trap stopWineServer EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM
+  trap 'exit 129' HUP
+  useWineEnvironment
+  step wine "Starting Wine" warmWine
+}
+
+stopWineServer() { { wineserver -k && wineserver -w; } >/dev/null 2>&1 || true; }
