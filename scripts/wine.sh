@@ -21,6 +21,10 @@ prepareWine() {
 # Without the waiting server each test would pay for a start of Wine.
 warmWine() { prepareWine && wineserver -p && wine cmd /c exit; }
 
+# Wine's services end when no program runs for some seconds, and a test that begins just then waits half a minute for
+# them. So one program runs all the time: a prompt that waits for words from here, and ends with this script.
+keepWineBusy() { coproc wineBusy { exec wine cmd >/dev/null 2>&1; }; }
+
 # From here on the server goes when the script ends, however it ends.
 startWine() {
   trap stopWineServer EXIT
@@ -28,7 +32,7 @@ startWine() {
   trap 'exit 143' TERM
   trap 'exit 129' HUP
   useWineEnvironment
-  step wine "Starting Wine" warmWine
+  step wine "Starting Wine" warmWine && keepWineBusy
 }
 
 stopWineServer() { { wineserver -k && wineserver -w; } >/dev/null 2>&1 || true; }
