@@ -1,6 +1,10 @@
 # GoogleTest from its sources, so that every preset, the Windows one included, builds it with its own flags.
 include(GoogleTest)
 set(TESSALY_GOOGLETEST_SOURCE /usr/src/googletest CACHE PATH "GoogleTest's sources, as Debian's googletest has them")
+if(NOT EXISTS "${TESSALY_GOOGLETEST_SOURCE}/CMakeLists.txt")
+  message(FATAL_ERROR "The tests need GoogleTest's sources in ${TESSALY_GOOGLETEST_SOURCE}: install the package "
+                      "googletest, or configure with -DTESSALY_TESTS=OFF")
+endif()
 set(INSTALL_GTEST OFF CACHE INTERNAL "")
 set(BUILD_GMOCK OFF CACHE INTERNAL "")
 add_subdirectory("${TESSALY_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)

@@ -59,10 +59,10 @@ class TESSALY_API CResources {
   /// what `lang` does with the primary language's number.
   virtual void AutomaticTranslation();
 
-  /// Chooses by number: its file, or the first one of the same primary language; with neither nothing
-  /// changes. A negative number means the language of its positive and makes every text end in its string
-  /// number, as in "Open[13]"; the next call with a number that is not negative takes that back. Error 6 for
-  /// the lowest number of all.
+  /// Chooses by number: its file, or the first one of the same primary language; with neither the language
+  /// in force stays. A negative number means the language of its positive and, listed or not, makes every
+  /// text end in its string number, as in "Open[13]"; the next call with a number from 0 on takes that back.
+  /// Error 6 for the lowest number of all, which has no positive.
   virtual void SetLangOrCountry(Long id);
 
   /// The identity that a language file must carry, compared to the letter.
