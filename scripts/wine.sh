@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2154
+# shellcheck shell=bash disable=SC2034,SC2154
 # Wine for the tests: a prefix of the build's own, without a display, and a server that stays while they run.
 export WINEPREFIX="$projectRoot/build/wine" WINEDEBUG=-all
 

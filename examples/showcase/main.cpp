@@ -1,6 +1,7 @@
 // A host in a terminal: what its language files make of its texts.
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 #include "examples/showcase/Host.h"
@@ -58,12 +59,17 @@ int checkAll(const Screen& screen, const std::vector<String>& words) {
   return worst;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  const std::vector<String> words = examples::arguments(argc, argv);
-  const Screen screen(wantsColours());
+int run(const Screen& screen, const std::vector<String>& words) {
   if (words.empty()) return demonstrate(screen);
   if (words.size() > 1 && words.front() == u"--check") return checkAll(screen, words);
   return usage(words.size() == 1 && words.front() == u"--help" ? 0 : kFailure);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const int exitCode = run(Screen(wantsColours()), examples::arguments(argc, argv));
+  if (examples::finishWriting()) return exitCode;
+  std::fputs("showcase: the output can't be written\n", stderr);
+  return kFailure;
 }

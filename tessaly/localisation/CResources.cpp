@@ -13,8 +13,9 @@ using namespace std::string_view_literals;
 /// Where `word` stands at `from` or later, or the text's length. The string's own search goes in single
 /// steps, which here costs half as much again.
 std::size_t find(std::u16string_view text, std::u16string_view word, std::size_t from) {
-  const auto begin = text.begin() + static_cast<std::ptrdiff_t>(from);
-  return static_cast<std::size_t>(std::search(begin, text.end(), word.begin(), word.end()) - text.begin());
+  const std::u16string_view rest = text.substr(from);
+  return from + static_cast<std::size_t>(std::distance(
+                    rest.begin(), std::search(rest.begin(), rest.end(), word.begin(), word.end())));
 }
 
 /// Puts `replacement` in the place of every `word`, from the front; what comes in is not looked at again.

@@ -82,8 +82,10 @@ TEST_F(HostileFilesTest, ReadsFiftyMegabytesOfTexts) {
 }
 
 TEST_F(HostileFilesTest, ReadsOneTextOfFiftyMegabytes) {
-  load(document(kHeader + text(1, std::string(50'000'000, 'x'))));
-  EXPECT_EQ(resources_.res(0).size(), 50'000'000U);
+  // Wine's parser may cut a text at ten million characters.
+  const std::size_t size = tests::underWine() ? 5'000'000 : 50'000'000;
+  load(document(kHeader + text(1, std::string(size, 'x'))));
+  EXPECT_EQ(resources_.res(0).size(), size);
 }
 
 TEST_F(HostileFilesTest, ReadsATextInAMillionPieces) {

@@ -38,7 +38,8 @@ const Language kLanguages[] = {
 
 std::size_t countOf(std::u16string_view text, std::u16string_view word) {
   std::size_t count = 0;
-  for (auto place = text.find(word); place != text.npos; place = text.find(word, place + word.size()))
+  for (auto place = text.find(word); place != std::u16string_view::npos;
+       place = text.find(word, place + word.size()))
     ++count;
   return count;
 }

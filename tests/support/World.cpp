@@ -22,7 +22,7 @@ class FakeWorld final : public World {
   String folder() const override { return u"/texts"; }
 
   String put(std::u16string_view name, std::string_view bytes) override {
-    const String path = folder() + u"/" + String(name);
+    String path = folder() + u"/" + String(name);
     files_.put(path, std::string(bytes));
     return path;
   }

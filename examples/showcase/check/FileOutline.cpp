@@ -23,39 +23,86 @@ String nameOf(XmlNode& node) {
   return name;
 }
 
-/// The text of a section's field, the last one where there are several.
-std::optional<String> field(XmlNode& section, std::u16string_view name) {
-  std::optional<String> text;
-  for (XmlNode& child : section.childNodes()) {
-    if (nameOf(child) == name) child.nodeTypedValue(text.emplace());
+String sectionName(XmlNode& node) { return node.nodeType() == XmlNode::Element ? nameOf(node) : String(); }
+
+/// Goes through a document in the order of a catalogue: its header first, then all of it.
+class Reading {
+ public:
+  explicit Reading(FileOutline& outline) : outline_(&outline) {}
+
+  /// A GENERAL section ends the list that it stands in.
+  void readHeader(XmlNode& parent) {
+    for (XmlNode& node : parent.childNodes()) {
+      if (sectionName(node) == u"GENERAL") {
+        outline_->hasGeneral = true;
+        return takeGeneral(node, outline_->header);
+      }
+      readHeader(node);
+      if (hasEnded()) return;
+    }
   }
-  return text;
-}
 
-/// Takes a field over what an earlier section of the same kind said.
-void takeField(std::optional<String>& into, XmlNode& section, std::u16string_view name) {
-  if (auto text = field(section, name)) into = std::move(text);
-}
-
-void takeGeneral(FileOutline& outline, XmlNode& section) {
-  outline.hasGeneral = true;
-  takeField(outline.version, section, u"VERSION");
-  takeField(outline.guid, section, u"GUID");
-  takeField(outline.lang, section, u"LANG");
-  takeField(outline.langId, section, u"LANGID");
-}
-
-void takeSections(FileOutline& outline, XmlNode& parent) {
-  for (XmlNode& node : parent.childNodes()) {
-    if (node.nodeType() != XmlNode::Element) continue;
-    const String name = nameOf(node);
-    if (name == u"GENERAL") takeGeneral(outline, node);
-    if (name == u"FONTS") takeField(outline.gridFontSize, node, u"GRIDFONTSIZE");
-    if (name == u"STRING")
-      outline.strings.push_back({field(node, u"ID"), field(node, u"VALUE").value_or(u"")});
-    takeSections(outline, node);
+  void readAll(XmlNode& parent) {
+    for (XmlNode& node : parent.childNodes()) {
+      takeSection(node);
+      if (!hasEnded()) readAll(node);
+      if (hasEnded()) return;
+    }
   }
-}
+
+  bool hasEnded() const { return outline_->end.has_value(); }
+
+ private:
+  template <class Take>
+  void forEachField(XmlNode& section, Take take) {
+    for (XmlNode& child : section.childNodes()) {
+      FileOutline::Field field{nameOf(child), u""};
+      child.nodeTypedValue(field.text);
+      take(field);
+      if (hasEnded()) return;
+    }
+  }
+
+  std::optional<Long> number(const FileOutline::Field& field) {
+    const auto value = numberIn(field.text);
+    if (!value) outline_->end = field;
+    return value;
+  }
+
+  void takeSection(XmlNode& node) {
+    const String name = sectionName(node);
+    FileOutline::Header later;
+    if (name == u"GENERAL") takeGeneral(node, later);
+    if (name == u"FONTS") takeFonts(node);
+    if (name == u"STRING") takeString(node);
+  }
+
+  void takeGeneral(XmlNode& section, FileOutline::Header& header) {
+    forEachField(section, [&](const FileOutline::Field& field) {
+      if (field.name == u"VERSION") number(field);
+      if (field.name == u"GUID") header.guid = field.text;
+      if (field.name == u"LANG") header.lang = field.text;
+      if (field.name == u"LANGID" && number(field)) header.langId = field.text;
+    });
+  }
+
+  void takeFonts(XmlNode& section) {
+    forEachField(section, [&](const FileOutline::Field& field) {
+      if (field.name == u"GRIDFONTSIZE") number(field);
+    });
+  }
+
+  void takeString(XmlNode& section) {
+    FileOutline::Entry entry;
+    forEachField(section, [&](const FileOutline::Field& field) {
+      if (field.name == u"ID") entry.id = number(field);
+      if (field.name == u"VALUE") entry.value = field.text;
+    });
+    if (!hasEnded()) outline_->strings.push_back(std::move(entry));
+  }
+
+  FileOutline* outline_;
+};
 
 }  // namespace
 
@@ -66,14 +113,18 @@ FileOutline outlineOf(std::u16string_view path) {
   document->async(false);
   document->validateOnParse(false);
   outline.wellFormed = document->load(path);
-  if (const XmlNodePtr root = document->documentElement()) takeSections(outline, *root);
+  const XmlNodePtr root = document->documentElement();
+  if (!root) return outline;
+  Reading reading(outline);
+  reading.readHeader(*root);
+  outline.headerIsWhole = !reading.hasEnded();
+  if (outline.headerIsWhole) reading.readAll(*root);
   return outline;
 }
 
-std::optional<Long> numberIn(const std::optional<String>& text) {
-  if (!text) return std::nullopt;
+std::optional<Long> numberIn(const String& text) {
   try {
-    return tessaly::Variant(*text).toLong();
+    return tessaly::Variant(text).toLong();
   } catch (const tessaly::RuntimeError&) {
     return std::nullopt;
   }

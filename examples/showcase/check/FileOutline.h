@@ -8,27 +8,37 @@
 
 namespace showcase {
 
-/// What a language file says, as it is written there. A catalogue keeps silent about what it does not take;
-/// this is for telling a translator why.
+/// What a language file says, as it is written there, as far as a catalogue reads it. A catalogue keeps
+/// silent about what it does not take; this is for telling a translator why.
 struct FileOutline {
+  /// What decides whether a file is taken; a later GENERAL section has no say in it.
+  struct Header {
+    std::optional<tessaly::String> guid;
+    std::optional<tessaly::String> lang;
+    std::optional<tessaly::String> langId;
+  };
   struct Entry {
-    std::optional<tessaly::String> id;
+    std::optional<tessaly::Long> id;
     tessaly::String value;
+  };
+  struct Field {
+    tessaly::String name;
+    tessaly::String text;
   };
 
   bool wellFormed = false;
   bool hasGeneral = false;
-  std::optional<tessaly::String> version;
-  std::optional<tessaly::String> guid;
-  std::optional<tessaly::String> lang;
-  std::optional<tessaly::String> langId;
-  std::optional<tessaly::String> gridFontSize;
+  bool headerIsWhole = false;
+  Header header;
   std::vector<Entry> strings;
+
+  /// The first number that is none to every user: there reading ends.
+  std::optional<Field> end;
 };
 
 FileOutline outlineOf(std::u16string_view path);
 
 /// The number that a text holds, or nothing where it is no number to every user.
-std::optional<tessaly::Long> numberIn(const std::optional<tessaly::String>& text);
+std::optional<tessaly::Long> numberIn(const tessaly::String& text);
 
 }  // namespace showcase

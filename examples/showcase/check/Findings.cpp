@@ -14,18 +14,19 @@ namespace {
 
 String orNothing(const std::optional<String>& text) { return text ? u"\"" + *text + u"\"" : u"missing"; }
 
+/// What was not reached before reading ended is not known to be missing.
 void checkHeader(std::vector<Finding>& findings, const FileOutline& outline) {
+  if (!outline.headerIsWhole) return checkEnd(findings, outline);
+  const FileOutline::Header& header = outline.header;
   const auto expect = [&](bool right, std::u16string_view element, std::u16string_view what) {
     if (!right) findings.push_back({String(element), String(what)});
   };
-  expect(!outline.version || numberIn(outline.version), u"VERSION",
-         orNothing(outline.version) + u"; it must be a number");
-  expect(outline.guid == String(kApplicationGUID), u"GUID",
-         orNothing(outline.guid) + u"; it must be \"" + String(kApplicationGUID) + u"\"");
-  expect(outline.lang && !outline.lang->empty(), u"LANG",
-         orNothing(outline.lang) + u"; it must name the language");
-  expect(numberIn(outline.langId).value_or(0) != 0, u"LANGID",
-         orNothing(outline.langId) + u"; it must be a number other than 0");
+  expect(header.guid == String(kApplicationGUID), u"GUID",
+         orNothing(header.guid) + u"; it must be \"" + String(kApplicationGUID) + u"\"");
+  expect(header.lang && !header.lang->empty(), u"LANG",
+         orNothing(header.lang) + u"; it must name the language");
+  expect(header.langId && numberIn(*header.langId) != 0, u"LANGID",
+         orNothing(header.langId) + u"; it must be a number other than 0");
 }
 
 }  // namespace

@@ -78,7 +78,7 @@ TEST_P(Mistakes, AreToldAsTheyAre) {
 }
 
 const std::string kIdentity = R"(it must be "CA2C7606-C0B7-47c8-A153-F1FC278BBEB3")";
-const std::string kNoNumber = " is no number: nothing behind it is read";
+const std::string kNoNumber = " is no number of 32 bits: nothing behind it is read";
 const std::string kNotWellFormed = "File: not well-formed, as an XML parser tells";
 
 const Mistake kNotUsed[] = {
@@ -105,17 +105,23 @@ const Mistake kNotUsed[] = {
      "LANGID: missing; it must be a number other than 0"},
     {"LangIdZero", withGeneral("1030", "0"), "none", "", "",
      "LANGID: \"0\"; it must be a number other than 0"},
-    {"LangIdNoNumber", withGeneral("1030", "da-DK"), "Dansk 0", "", "",
-     "LANGID: \"da-DK\"; it must be a number other than 0"},
+    {"LangIdNoNumber", withGeneral("1030", "da-DK"), "Dansk 0", "", "", "LANGID: \"da-DK\"" + kNoNumber},
     {"LangIdTooLarge", withGeneral("1030", "3000000000"), "Dansk 0", "", "",
-     "LANGID: \"3000000000\"; it must be a number other than 0"},
+     "LANGID: \"3000000000\"" + kNoNumber},
     {"VersionNoNumber", withGeneral("<VERSION>1<", "<VERSION>1.0b<"), " 0", "", "",
-     "VERSION: \"1.0b\"; it must be a number"},
-    {"EmptyVersion", withGeneral("<VERSION>1<", "<VERSION><"), " 0", "", "",
-     "VERSION: \"\"; it must be a number"},
+     "VERSION: \"1.0b\"" + kNoNumber},
+    {"EmptyVersion", withGeneral("<VERSION>1<", "<VERSION><"), " 0", "", "", "VERSION: \"\"" + kNoNumber},
     {"VersionNoNumberAtTheEnd",
      withGeneral("<LANGID>1030</LANGID>", "<LANGID>1030</LANGID><VERSION>x</VERSION>"), "Dansk 1030", "", "",
-     "VERSION: \"x\"; it must be a number"},
+     "VERSION: \"x\"" + kNoNumber},
+    {"VersionTwiceTheFirstNoNumber", withGeneral("<VERSION>1<", "<VERSION>x</VERSION><VERSION>1<"), " 0", "",
+     "", "VERSION: \"x\"" + kNoNumber},
+    {"LangIdTwiceTheFirstNoNumber", withGeneral("<LANGID>", "<LANGID>da</LANGID><LANGID>"), "Dansk 0", "", "",
+     "LANGID: \"da\"" + kNoNumber},
+    {"LangIdTwiceTheLastZero", withGeneral("</LANGID>", "</LANGID><LANGID>0</LANGID>"), "none", "", "",
+     "LANGID: \"0\"; it must be a number other than 0"},
+    {"GuidInALaterGeneral", document("<GENERAL><LANG>Dansk</LANG></GENERAL>" + kGeneral + kFirst), "none", "",
+     "", "GUID: missing; " + kIdentity},
     {"NoText", document(kGeneral), "Dansk 1030", "", "", "File: it gives none of the texts"},
 };
 
@@ -126,6 +132,17 @@ const Mistake kUsed[] = {
      "ID: \"\"" + kNoNumber},
     {"GridFontSizeNoNumber", between("<FONTS><GRIDFONTSIZE>9pt</GRIDFONTSIZE></FONTS>"), "Dansk 1030",
      "&Annuller", "", "GRIDFONTSIZE: \"9pt\"" + kNoNumber},
+    {"IdTwiceTheFirstNoNumber", between("<STRING><ID>x</ID><ID>2</ID><VALUE>OK</VALUE></STRING>"),
+     "Dansk 1030", "&Annuller", "", "ID: \"x\"" + kNoNumber},
+    {"IdTwiceTheLastNoNumber", between("<STRING><ID>2</ID><ID>x</ID><VALUE>OK</VALUE></STRING>"),
+     "Dansk 1030", "&Annuller", "", "ID: \"x\"" + kNoNumber},
+    {"GridFontSizeTwiceTheFirstNoNumber",
+     between("<FONTS><GRIDFONTSIZE>9pt</GRIDFONTSIZE><GRIDFONTSIZE>9</GRIDFONTSIZE></FONTS>"), "Dansk 1030",
+     "&Annuller", "", "GRIDFONTSIZE: \"9pt\"" + kNoNumber},
+    {"LaterLangIdNoNumber", between("<GENERAL><LANGID>da</LANGID></GENERAL>"), "Dansk 1030", "&Annuller", "",
+     "LANGID: \"da\"" + kNoNumber},
+    {"LaterVersionNoNumber", between("<GENERAL><VERSION/></GENERAL>"), "Dansk 1030", "&Annuller", "",
+     "VERSION: \"\"" + kNoNumber},
     {"NoId", between("<STRING><VALUE>x</VALUE></STRING>"), "Dansk 1030", "&Annuller", "Åbn",
      "STRING: without an ID, and so left out: \"x\""},
     {"IdInAnAttribute", between(R"(<STRING ID="2"><VALUE>x</VALUE></STRING>)"), "Dansk 1030", "&Annuller",
@@ -185,6 +202,49 @@ TEST(CheckOfAFile, AnEndingOtherThanXmlIsTold) {
   };
   EXPECT_EQ(first(u"dansk.txt"), u"its name must end in .xml to be found");
   EXPECT_EQ(first(u"DANSK.XML"), u"2 to 12, 14 to 175");
+}
+
+TEST(CheckOfAFile, NothingIsToldOfWhatStandsBehindTheEndOfReading) {
+  tessaly::platform::fake::Files files;
+  files.put(kPath, between("<FONTS><GRIDFONTSIZE>9pt</GRIDFONTSIZE></FONTS>" + kFirst +
+                           "<STRING><ID>x</ID></STRING><STRING><VALUE>x</VALUE></STRING>"
+                           "<GENERAL><LANGID>da</LANGID></GENERAL>"));
+  const tessaly::platform::Override inMemory(files);
+  EXPECT_EQ(findings(loadAlone(kPath)),
+            (std::vector<std::string>{"GRIDFONTSIZE: \"9pt\"" + kNoNumber, "Missing: 2 to 175"}));
+}
+
+TEST(CheckOfAFile, WhatStandsBeforeTheEndOfReadingIsTold) {
+  tessaly::platform::fake::Files files;
+  files.put(kPath,
+            between(kFirst + "<STRING><ID>0</ID></STRING><GENERAL><LANGID>da</LANGID></GENERAL>" + kFirst));
+  const tessaly::platform::Override inMemory(files);
+  EXPECT_EQ(
+      findings(loadAlone(kPath)),
+      (std::vector<std::string>{"ID: 0 is not from 1 to 175, and so left out", "LANGID: \"da\"" + kNoNumber,
+                                "String 1: given 2 times; the last one counts", "Missing: 2 to 175"}));
+}
+
+TEST(CheckOfAFile, ABrokenHeaderIsToldAlone) {
+  tessaly::platform::fake::Files files;
+  files.put(kPath, document("<GENERAL><VERSION>x</VERSION><LANGID>da</LANGID></GENERAL>" + kFirst));
+  const tessaly::platform::Override inMemory(files);
+  EXPECT_EQ(findings(loadAlone(kPath)), std::vector<std::string>{"VERSION: \"x\"" + kNoNumber});
+}
+
+TEST(CheckOfAFile, AHiddenOneIsToldSo) {
+  tessaly::platform::fake::Files files;
+  const tessaly::platform::Override inMemory(files);
+  const auto first = [&](std::u16string_view path) {
+    files.put(path, between(""));
+    return findingsIn(loadAlone(path), outlineOf(path), path).front().what;
+  };
+  const tessaly::String hidden =
+      u"hidden, as its name begins with a dot: the list of languages leaves it out";
+  EXPECT_EQ(first(u".dansk.xml"), hidden);
+  EXPECT_EQ(first(u"../files/.dansk.xml"), hidden);
+  EXPECT_EQ(first(tessaly::String(u"files") + files.separator() + u".dansk.xml"), hidden);
+  EXPECT_EQ(first(u".files/dansk.xml"), u"2 to 12, 14 to 175");
 }
 
 }  // namespace

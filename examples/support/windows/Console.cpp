@@ -14,6 +14,11 @@ struct FreeLocally {
   void operator()(wchar_t** memory) const { LocalFree(memory); }
 };
 
+bool& hasFailed() {
+  static bool failed = false;
+  return failed;
+}
+
 bool isConsole(HANDLE output) {
   DWORD mode = 0;
   return GetConsoleMode(output, &mode) != 0;
@@ -46,11 +51,15 @@ void write(std::u16string_view text) {
     // Wide text needs no code page, and so the console's own stays as the user has it.
     const std::wstring wide = tessaly::toWide(text);
     WriteConsoleW(output, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
+    if (written != wide.size()) hasFailed() = true;
   } else {
     const std::string bytes = tessaly::toUtf8(text);
     WriteFile(output, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    if (written != bytes.size()) hasFailed() = true;
   }
 }
+
+bool finishWriting() { return !hasFailed(); }
 
 bool hasColours() {
   HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);

@@ -40,7 +40,7 @@ std::string scriptOf(const std::string& modifier) {
 /// The locale as ICU has it.
 icu::Locale icuLocale(const std::string& name) {
   const auto at = std::min(name.find('@'), name.size());
-  const icu::Locale plain = icu::Locale::createCanonical(name.substr(0, at).c_str());
+  icu::Locale plain = icu::Locale::createCanonical(name.substr(0, at).c_str());
   const std::string script = scriptOf(name.substr(std::min(at + 1, name.size())));
   if (script.empty()) return plain;
   return {(std::string(plain.getLanguage()) + "_" + script + "_" + plain.getCountry()).c_str()};

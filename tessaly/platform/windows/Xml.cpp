@@ -18,23 +18,42 @@ constexpr IID kDomDocument2 = {0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0x
 /// Levels of elements below the root.
 constexpr int kDeepest = 256;
 
-/// Bytes as the model takes them.
-class ByteArray {
+/// A document's bytes as the model takes them.
+class Source {
  public:
-  explicit ByteArray(const std::string& bytes) {
-    value_.vt = VT_ARRAY | VT_UI1;
-    value_.parray = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
-    if (value_.parray == nullptr) throw std::bad_alloc();
-    std::copy(bytes.begin(), bytes.end(), static_cast<char*>(value_.parray->pvData));
+  explicit Source(const std::string& bytes) {
+    VariantInit(&value_);
+    // A stream is what every version takes in every encoding. Some copy it page by page, which takes half a
+    // minute for 50 MB, so what is that large goes in as an array.
+    bytes.size() <= kMostForStream ? setStream(bytes) : setArray(bytes);
   }
-  ByteArray(const ByteArray&) = delete;
-  ByteArray& operator=(const ByteArray&) = delete;
-  ~ByteArray() { VariantClear(&value_); }
+  Source(const Source&) = delete;
+  Source& operator=(const Source&) = delete;
+  ~Source() { VariantClear(&value_); }
 
   const VARIANT& get() const { return value_; }
 
  private:
-  VARIANT value_{};
+  static constexpr std::size_t kMostForStream = std::size_t{1} << 20U;
+
+  void setStream(const std::string& bytes) {
+    auto stream = taken<IStream>([](IStream** out) { return CreateStreamOnHGlobal(nullptr, TRUE, out); });
+    if (!stream || FAILED(stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr))) {
+      throw std::bad_alloc();
+    }
+    stream->Seek(LARGE_INTEGER{}, STREAM_SEEK_SET, nullptr);
+    value_.vt = VT_UNKNOWN;
+    value_.punkVal = stream.release();
+  }
+
+  void setArray(const std::string& bytes) {
+    value_.parray = SafeArrayCreateVector(VT_UI1, 0, static_cast<ULONG>(bytes.size()));
+    if (value_.parray == nullptr) throw std::bad_alloc();
+    value_.vt = VT_ARRAY | VT_UI1;
+    std::copy(bytes.begin(), bytes.end(), static_cast<char*>(value_.parray->pvData));
+  }
+
+  VARIANT value_;
 };
 
 /// What the system's parser lets through and who reads the tree goes down with: the parser of old has no
@@ -86,8 +105,7 @@ class WindowsXmlDocument final : public XmlDocument {
   }
 
   bool load(std::u16string_view path) override {
-    // The file is opened here, since the model's own `load` takes its argument for an address. Its bytes go
-    // in as an array: a stream is copied page by page, which takes half a minute for 50 MB.
+    // The file is opened here, since the model's own `load` takes its argument for an address.
     const std::optional<std::string> bytes = core().files->read(path);
     loaded_ = bytes && !bytes->empty() && parse(*bytes);
     const XmlNodePtr root = documentElement();
@@ -127,7 +145,7 @@ class WindowsXmlDocument final : public XmlDocument {
   }
 
   bool parse(const std::string& bytes) {
-    const ByteArray source(bytes);
+    const Source source(bytes);
     VARIANT_BOOL wellFormed = VARIANT_FALSE;
     return document_->load(source.get(), &wellFormed) == S_OK && wellFormed != VARIANT_FALSE;
   }
