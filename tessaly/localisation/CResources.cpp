@@ -22,6 +22,11 @@ std::size_t find(std::u16string_view text, std::u16string_view word, std::size_t
 void replaceAll(String& text, std::u16string_view word, std::u16string_view replacement) {
   std::size_t place = find(text, word, 0);
   if (place == text.size()) return;
+  if (find(text, word, place + word.size()) == text.size()) {
+    text.replace(place, word.size(), replacement);
+    return;
+  }
+  // More than one: a text from a file may have any number, and moving its rest for each would never end.
   String result;
   result.reserve(text.size() + replacement.size());
   std::size_t from = 0;
