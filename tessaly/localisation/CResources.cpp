@@ -8,6 +8,7 @@
 namespace tessaly {
 namespace {
 
+// For literals whose length is known when they are compiled: g++ counts that of a plain u"" each time.
 using namespace std::string_view_literals;
 
 /// Where `word` stands at `from` or later, or the text's length. The string's own search goes in single

@@ -17,6 +17,7 @@ using platform::XmlNodePtr;
 
 namespace {
 
+// For literals whose length is known when they are compiled: g++ counts that of a plain u"" each time.
 using namespace std::string_view_literals;
 
 /// Whether a name, in upper case, is one of the format's. Only a to z have a capital that matters.

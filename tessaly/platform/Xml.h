@@ -12,6 +12,9 @@ namespace tessaly::platform {
 struct XmlNode;
 class XmlChildNodes;
 
+/// How many levels of elements a document may have below its root.
+inline constexpr int kMostXmlLevels = 256;
+
 struct ReleaseXmlNode {
   void operator()(XmlNode* node) const noexcept;
 };
@@ -61,7 +64,7 @@ struct XmlDocument {
   virtual void validateOnParse(bool value) = 0;
 
   /// Parses a file, once for each document. Gives false, and no element, where the file is missing, not
-  /// well-formed, or nested deeper than 256 levels below its root. External entities are never read.
+  /// well-formed, or nested deeper than `kMostXmlLevels`. External entities are never read.
   virtual bool load(std::u16string_view path) = 0;
 
   /// The root element, or none.

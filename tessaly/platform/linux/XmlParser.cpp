@@ -14,7 +14,6 @@ namespace {
 /// Between a name and its namespace; no document can hold this character.
 constexpr char kSeparator = '\f';
 constexpr std::string_view kSpaceAttribute = "http://www.w3.org/XML/1998/namespace\fspace";
-constexpr int kDeepest = 256;
 /// Of entities and attributes in a document type. Expat goes through a chain of entities on the stack, and
 /// looks through all attributes for each that is declared.
 constexpr int kMostDeclarations = 1000;
@@ -115,7 +114,7 @@ class TreeBuilder {
 
   void start(const char* name, const char** attributes) {
     endText();
-    if (depth_++ > kDeepest) {
+    if (depth_++ > kMostXmlLevels) {
       XML_StopParser(parser_, XML_FALSE);
       return;
     }

@@ -15,8 +15,6 @@ namespace {
 constexpr CLSID kDomDocument = {0xF6D90F11, 0x9C73, 0x11D3, {0xB3, 0x2E, 0x00, 0xC0, 0x4F, 0x99, 0x0B, 0xB4}};
 /// The newer form of the document's interface; the import library has no name for it.
 constexpr IID kDomDocument2 = {0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
-/// Levels of elements below the root.
-constexpr int kDeepest = 256;
 
 /// A document's bytes as the model takes them.
 class Source {
@@ -62,7 +60,7 @@ class HostileTree {
  public:
   explicit HostileTree(std::size_t documentSize) : mostReferences_(kMostText / documentSize) {}
 
-  bool isHostile(XmlNode& node, int levelsLeft = kDeepest) {
+  bool isHostile(XmlNode& node, int levelsLeft = kMostXmlLevels) {
     if (levelsLeft < 0) return true;
     for (XmlNode& child : node.childNodes()) {
       const Long type = child.nodeType();
@@ -140,7 +138,7 @@ class WindowsXmlDocument final : public XmlDocument {
     const ComText name(u"MaxElementDepth");
     VARIANT depth{};
     depth.vt = VT_I4;
-    depth.lVal = kDeepest + 1;
+    depth.lVal = kMostXmlLevels + 1;
     extended->setProperty(name.get(), depth);
   }
 
