@@ -9,9 +9,9 @@ set(INSTALL_GTEST OFF CACHE INTERNAL "")
 set(BUILD_GMOCK OFF CACHE INTERNAL "")
 add_subdirectory("${TESSALY_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
-# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>]): one program for tests,
-# which run in the project's folder. Where nothing else is told, LIBRARY is Tessaly::core, the name is the ctest
-# label, and a test may take two minutes.
+# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>]): one
+# program for tests, which run in the project's folder and in the C locale. Where nothing else is told, LIBRARY is
+# Tessaly::core, the name is the ctest label, and a test may take two minutes.
 function(tessaly_test name)
   cmake_parse_arguments(arg "" "LIBRARY;LABEL;TIMEOUT" "SOURCES" ${ARGN})
   if(NOT arg_LIBRARY)
@@ -28,5 +28,6 @@ function(tessaly_test name)
   tessaly_options(${target})
   target_link_libraries(${target} PRIVATE tests-support ${arg_LIBRARY} GTest::gtest_main)
   gtest_discover_tests(${target} TEST_PREFIX "${arg_LABEL}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
-                       DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT ${arg_TIMEOUT})
+                       DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT ${arg_TIMEOUT}
+                       ENVIRONMENT LC_ALL=C.UTF-8)
 endfunction()

@@ -20,6 +20,9 @@ struct Files {
   /// All bytes of a file, or nothing where it is missing, no file, over 2 GiB, or not to be read.
   virtual std::optional<std::string> read(std::u16string_view path) = 0;
 
+  /// Whether a file opens for reading: not where it is missing, a folder, or not to be read.
+  virtual bool opens(std::u16string_view path) = 0;
+
   /// The names in a folder that end as told, in any case, sorted by their upper-cased form. Normal files
   /// only, links followed; what is hidden, a leading dot included, is left out. A folder that can't be listed
   /// is empty.

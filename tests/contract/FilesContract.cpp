@@ -57,11 +57,34 @@ TEST_P(FilesContract, ReadsNothingForAPathWithANul) {
   EXPECT_EQ(World::files().read(pathOf(u"there.xml") + u"\0"s), std::nullopt);
 }
 
+TEST_P(FilesContract, OpensWhatItCanRead) {
+  world_->put(u"full.bin", "x");
+  world_->put(u"empty.bin", "");
+  EXPECT_TRUE(World::files().opens(pathOf(u"full.bin")));
+  EXPECT_TRUE(World::files().opens(pathOf(u"empty.bin")));
+}
+
+TEST_P(FilesContract, OpensNoFolderAndNothingThatIsMissing) {
+  world_->put(u"there.xml", "x");
+  EXPECT_FALSE(World::files().opens(pathOf(u"missing.xml")));
+  EXPECT_FALSE(World::files().opens(pathOf(u"missing") + World::files().separator() + u"there.xml"));
+  EXPECT_FALSE(World::files().opens(world_->folder()));
+  EXPECT_FALSE(World::files().opens(world_->folder() + World::files().separator()));
+  EXPECT_FALSE(World::files().opens(u""));
+}
+
+TEST_P(FilesContract, OpensNoPathWithANul) {
+  world_->put(u"there.xml", "x");
+  EXPECT_FALSE(World::files().opens(pathOf(u"there.xml") + u"\0.txt"s));
+  EXPECT_FALSE(World::files().opens(pathOf(u"there.xml") + u"\0"s));
+}
+
 TEST_P(FilesContract, TakesPathsInEveryScript) {
   for (const std::u16string_view name :
        {u"a b.xml", u"a%20b.xml", u"a#b.xml", u"français.xml", u"日本語.xml", u"😀.xml"}) {
     world_->put(name, "x");
     EXPECT_EQ(World::files().read(pathOf(name)), "x");
+    EXPECT_TRUE(World::files().opens(pathOf(name)));
   }
   EXPECT_EQ(listed().size(), 6U);
 }

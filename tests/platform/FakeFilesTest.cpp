@@ -60,6 +60,7 @@ TEST(FakeFiles, FailToReadAsTold) {
   files.failRead(u"/a.xml");
   EXPECT_EQ(files.list(u"/", u".xml"), Names{u"a.xml"});
   EXPECT_EQ(files.read(u"/a.xml"), std::nullopt);
+  EXPECT_FALSE(files.opens(u"/a.xml"));
 }
 
 TEST(FakeFiles, FailToListAsTold) {

@@ -46,6 +46,8 @@ std::optional<std::string> Files::read(std::u16string_view path) {
   return file->second;
 }
 
+bool Files::opens(std::u16string_view path) { return read(path).has_value(); }
+
 std::vector<String> Files::list(std::u16string_view folder, std::u16string_view ending) {
   String prefix = keyOf(folder);
   if (prefix.empty() || prefix.back() != u'/') prefix += u'/';

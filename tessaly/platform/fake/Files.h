@@ -32,6 +32,7 @@ class TESSALY_API Files final : public platform::Files {
 
   char16_t separator() override { return separator_; }
   std::optional<std::string> read(std::u16string_view path) override;
+  bool opens(std::u16string_view path) override;
   std::vector<String> list(std::u16string_view folder, std::u16string_view ending) override;
 
  private:

@@ -2,33 +2,21 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unicode/uchar.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <filesystem>
+#include <utility>
 
 #include "tessaly/platform/Bodies.h"
+#include "tessaly/platform/linux/Descriptor.h"
 #include "tessaly/platform/linux/Path.h"
+#include "tessaly/platform/linux/UpperCase.h"
 
 namespace tessaly::platform {
 namespace {
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  int get() const { return number_; }
-
- private:
-  int number_;
-};
 
 /// Reads to the end or until the buffer is full; the count, or -1.
 ssize_t readAll(int descriptor, char* buffer, std::size_t size) {
@@ -42,11 +30,14 @@ ssize_t readAll(int descriptor, char* buffer, std::size_t size) {
   return static_cast<ssize_t>(done);
 }
 
-String upperCased(std::u16string_view text) {
-  String result(text);
-  std::transform(result.begin(), result.end(), result.begin(),
-                 [](char16_t c) { return static_cast<char16_t>(u_toupper(c)); });
-  return result;
+/// A file for reading with its status; none where it is no file or can't be opened.
+Descriptor openFile(std::u16string_view path, struct stat& status) {
+  const auto native = pathBytes(path);
+  if (!native) return Descriptor();
+  // Not blocking, since a pipe in a file's place would hold the caller until somebody writes.
+  Descriptor file(open(native->c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+  const bool isFile = file.isOpen() && fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode);
+  return isFile ? std::move(file) : Descriptor();
 }
 
 struct Name {
@@ -62,18 +53,19 @@ class LinuxFiles final : public Files {
   char16_t separator() override { return u'/'; }
 
   std::optional<std::string> read(std::u16string_view path) override {
-    const auto native = pathBytes(path);
-    if (!native) return std::nullopt;
-    // Not blocking, since a pipe in a file's place would hold the caller until somebody writes.
-    const Descriptor file(open(native->c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     struct stat status {};
-    const bool isFile = file.get() >= 0 && fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode);
-    if (!isFile || status.st_size > INT_MAX) return std::nullopt;
+    const Descriptor file = openFile(path, status);
+    if (!file.isOpen() || status.st_size > INT_MAX) return std::nullopt;
     std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
     const ssize_t count = readAll(file.get(), bytes.data(), bytes.size());
     if (count < 0) return std::nullopt;
     bytes.resize(static_cast<std::size_t>(count));
     return bytes;
+  }
+
+  bool opens(std::u16string_view path) override {
+    struct stat status {};
+    return openFile(path, status).isOpen();
   }
 
   std::vector<String> list(std::u16string_view folder, std::u16string_view ending) override {

@@ -8,12 +8,17 @@
 #include <mutex>
 #include <string>
 
+#include "tessaly/base/Text.h"
 #include "tessaly/platform/Bodies.h"
+#include "tessaly/platform/linux/AnsiCodePage.h"
+#include "tessaly/platform/linux/CodePage.h"
+#include "tessaly/platform/linux/UpperCase.h"
 
 namespace tessaly::platform {
 namespace {
 
 constexpr Long kEnglishUnitedStates = 1033;
+constexpr Long kUtf8 = 65001;
 
 /// The locale that the environment names for a category, without its encoding; empty where the user has
 /// chosen none.
@@ -84,6 +89,21 @@ class LinuxLocale final : public Locale {
     }
     return knownSeparator_;
   }
+
+  Long GetACP() override {
+    static const Long page = ansiCodePage(GetUserDefaultLCID());
+    return page;
+  }
+
+  std::string WideCharToMultiByte(Long codePage, std::u16string_view text) override {
+    return codePage == kUtf8 ? toUtf8(text) : CodePage::of(codePage).bytesOf(text);
+  }
+
+  String MultiByteToWideChar(Long codePage, std::string_view text) override {
+    return codePage == kUtf8 ? fromUtf8(text) : CodePage::of(codePage).textOf(text);
+  }
+
+  String CharUpperW(std::u16string_view text) override { return upperCased(text); }
 
  private:
   std::mutex mutex_;

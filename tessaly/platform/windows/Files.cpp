@@ -50,16 +50,24 @@ bool leadsToFile(const WIN32_FIND_DATAW& entry, const std::wstring& folder) {
          (target.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+/// A file for reading; none where it is no file or can't be opened.
+FileHandle openFile(std::u16string_view path) {
+  if (path.find(u'\0') != path.npos) return nullptr;
+  HANDLE const opened =
+      CreateFileW(toWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                  nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return nullptr;
+  FileHandle file(opened);
+  return GetFileType(opened) == FILE_TYPE_DISK ? std::move(file) : nullptr;
+}
+
 class WindowsFiles final : public Files {
  public:
   char16_t separator() override { return u'\\'; }
 
   std::optional<std::string> read(std::u16string_view path) override {
-    if (path.find(u'\0') != path.npos) return std::nullopt;
-    const FileHandle file(CreateFileW(toWide(path).c_str(), GENERIC_READ,
-                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (file.get() == INVALID_HANDLE_VALUE || GetFileType(file.get()) != FILE_TYPE_DISK) return std::nullopt;
+    const FileHandle file = openFile(path);
+    if (!file) return std::nullopt;
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.get(), &size) || size.QuadPart > MAXLONG) return std::nullopt;
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
@@ -69,6 +77,8 @@ class WindowsFiles final : public Files {
     bytes.resize(count);
     return bytes;
   }
+
+  bool opens(std::u16string_view path) override { return openFile(path) != nullptr; }
 
   std::vector<String> list(std::u16string_view folder, std::u16string_view ending) override {
     std::wstring path = toWide(folder);

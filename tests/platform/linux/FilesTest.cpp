@@ -55,6 +55,8 @@ TEST_F(LinuxFilesTest, NeitherListsNorWaitsForPipesAndDevices) {
   EXPECT_TRUE(listed().empty());
   EXPECT_EQ(core().files->read(folder_.text() + u"/pipe.xml"), std::nullopt);
   EXPECT_EQ(core().files->read(u"/dev/zero"), std::nullopt);
+  EXPECT_FALSE(core().files->opens(folder_.text() + u"/pipe.xml"));
+  EXPECT_FALSE(core().files->opens(u"/dev/zero"));
 }
 
 TEST_F(LinuxFilesTest, ReadsNothingWithoutPermission) {
@@ -62,6 +64,7 @@ TEST_F(LinuxFilesTest, ReadsNothingWithoutPermission) {
   folder_.write(u"secret.xml", "x");
   std::filesystem::permissions(folder_.path() / "secret.xml", std::filesystem::perms::none);
   EXPECT_EQ(core().files->read(folder_.text() + u"/secret.xml"), std::nullopt);
+  EXPECT_FALSE(core().files->opens(folder_.text() + u"/secret.xml"));
   EXPECT_EQ(listed(), Names{u"secret.xml"});
   std::filesystem::permissions(folder_.path(), std::filesystem::perms::none);
   EXPECT_TRUE(listed().empty());

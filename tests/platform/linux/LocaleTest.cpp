@@ -85,6 +85,15 @@ TEST_F(LinuxLocaleTest, HasTheUsersDecimalSeparator) {
   for (const auto& [locale, separator] : rows) EXPECT_EQ(separatorOf(locale), separator) << locale;
 }
 
+/// As on Windows: what is converted under one page must not be read under another.
+TEST_F(LinuxLocaleTest, KeepsTheCodePageThatItFirstHad) {
+  const Long before = core().locale->GetACP();
+  for (const char* locale : {"ru_RU.UTF-8", "ja_JP.UTF-8", "fr_FR.UTF-8"}) {
+    setenv("LC_ALL", locale, 1);
+    EXPECT_EQ(core().locale->GetACP(), before) << locale;
+  }
+}
+
 TEST_F(LinuxLocaleTest, StandsANameThatIsNoLocale) {
   for (const char* locale :
        {"nonsense", "../../etc", "@", ".", "xx_YY", "%s%n", "a_very_long_name_that_no_locale_has_anywhere"}) {

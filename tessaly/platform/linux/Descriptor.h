@@ -1,0 +1,32 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace tessaly::platform {
+
+/// A file descriptor that is closed with its owner.
+class Descriptor {
+ public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+
+  int get() const { return number_; }
+  bool isOpen() const { return number_ >= 0; }
+
+  /// Forgets the descriptor without closing it.
+  void abandon() { number_ = -1; }
+
+ private:
+  int number_;
+};
+
+}  // namespace tessaly::platform
