@@ -2,6 +2,7 @@
 
 #include "tessaly/platform/Files.h"
 #include "tessaly/platform/Locale.h"
+#include "tessaly/platform/Registry.h"
 #include "tessaly/platform/Xml.h"
 
 /// The platform's own bodies, one factory each. Which folder answers is the build's choice.
@@ -9,6 +10,7 @@ namespace tessaly::platform {
 
 Files& ownFiles();
 Locale& ownLocale();
+Registry& ownRegistry();
 Xml& ownXml();
 
 }  // namespace tessaly::platform

@@ -6,7 +6,7 @@ namespace tessaly::platform {
 namespace {
 
 Core& inForce() {
-  static Core bodies{&ownFiles(), &ownLocale(), &ownXml()};
+  static Core bodies{&ownFiles(), &ownLocale(), &ownRegistry(), &ownXml()};
   return bodies;
 }
 
@@ -16,6 +16,7 @@ const Core& core() { return inForce(); }
 
 Override::Override(Files& body) : before_(core()) { inForce().files = &body; }
 Override::Override(Locale& body) : before_(core()) { inForce().locale = &body; }
+Override::Override(Registry& body) : before_(core()) { inForce().registry = &body; }
 Override::Override(Xml& body) : before_(core()) { inForce().xml = &body; }
 Override::~Override() { inForce() = before_; }
 

@@ -3,6 +3,7 @@
 #include "tessaly/base/Export.h"
 #include "tessaly/platform/Files.h"
 #include "tessaly/platform/Locale.h"
+#include "tessaly/platform/Registry.h"
 #include "tessaly/platform/Xml.h"
 
 namespace tessaly::platform {
@@ -11,6 +12,7 @@ namespace tessaly::platform {
 struct Core {
   Files* files;
   Locale* locale;
+  Registry* registry;
   Xml* xml;
 };
 
@@ -24,6 +26,7 @@ class TESSALY_API Override {
  public:
   explicit Override(Files& body);
   explicit Override(Locale& body);
+  explicit Override(Registry& body);
   explicit Override(Xml& body);
   Override(const Override&) = delete;
   Override& operator=(const Override&) = delete;

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tessaly/platform/keys/HiveFile.h"
+
+namespace tessaly::tests {
+
+/// Names of keys, from the outer to the inner one.
+using Keys = std::vector<std::u16string_view>;
+
+platform::KeyValue textValue(std::u16string_view text);
+
+/// Writes a text, with its keys where they are missing.
+Long put(platform::KeyStore& hive, const Keys& keys, std::u16string_view name, std::u16string_view text);
+
+/// The text that stands there, or nothing where the store gives any other result than success.
+std::optional<String> get(platform::KeyStore& hive, const Keys& keys, std::u16string_view name);
+
+/// The result that a read gives.
+Long resultOfGet(platform::KeyStore& hive, const Keys& keys, std::u16string_view name);
+
+std::string bytesOf(const std::filesystem::path& file);
+void writeBytes(const std::filesystem::path& file, std::string_view bytes);
+unsigned modeOf(const std::filesystem::path& file);
+
+/// Starts a process that runs the work and ends with what it gives.
+pid_t start(const std::function<int()>& work);
+
+/// How a process has ended: its exit code, or minus the signal that has killed it.
+int endOf(pid_t process);
+
+/// Runs work in a process of its own: what it gives.
+inline int inProcess(const std::function<int()>& work) { return endOf(start(work)); }
+
+/// Likewise, as a user who has no rights in what others own; of this user's own files he may only do what
+/// their modes allow.
+int withoutRights(const std::function<int()>& work);
+
+/// Makes a database of some other program.
+void makeDatabase(const std::filesystem::path& file, const char* pragma);
+
+/// Leaves the hive as a writer does that is killed in the middle of a large change: half written, with the
+/// journal that takes it back.
+void interruptWrite(const std::filesystem::path& hive);
+
+}  // namespace tessaly::tests
