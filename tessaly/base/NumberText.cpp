@@ -4,9 +4,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <string>
 
+#include "tessaly/base/DecimalValue.h"
 #include "tessaly/base/RuntimeError.h"
 
 namespace tessaly {
@@ -61,29 +61,6 @@ bool scanExponent(NumberScan& scan) {
   return scan.takeDigits() > 0;
 }
 
-/// What a number is that a double can't hold: the position of its first digit that counts tells.
-double beyondRange(std::string_view number) {
-  const auto e = number.find('e');
-  long long exponent = 0;
-  if (e != std::string_view::npos) {
-    const auto [end, error] = std::from_chars(number.data() + e + 1, number.data() + number.size(), exponent);
-    if (error != std::errc()) return number[e + 1] == '-' ? 0.0 : std::numeric_limits<double>::infinity();
-  }
-  const std::string_view mantissa = number.substr(0, e);
-  const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
-  const auto first = static_cast<long long>(mantissa.find_first_of("123456789"));
-  // An exponent beyond any text's length decides alone.
-  constexpr long long longest = 1'000'000'000'000;
-  return point - first + std::clamp(exponent, -longest, longest) > 0 ? std::numeric_limits<double>::infinity()
-                                                                     : 0.0;
-}
-
-double valueOf(const std::string& number) {
-  double value = 0;
-  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-  return result.ec == std::errc::result_out_of_range ? beyondRange(number) : value;
-}
-
 }  // namespace
 
 String numberText(double value) {
@@ -101,7 +78,7 @@ std::optional<double> parseNumber(std::u16string_view text, std::u16string_view 
   const bool negative = scan.take(u"-", "");
   if (!negative) scan.take(u"+", "");
   if (!scanMantissa(scan, separator) || !scanExponent(scan) || !scan.atEnd()) return std::nullopt;
-  const double value = valueOf(scan.accepted());
+  const double value = decimalValue(scan.accepted());
   return negative ? -value : value;
 }
 

@@ -49,8 +49,18 @@ class TESSALY_API CResources {
   virtual String resLang(Long position);
   virtual Long resLangID(Long position);
 
+  /// Stores a language number for the user, at a key below HKEY_CURRENT_USER that is made where it is
+  /// missing. The value name "*" is the key's unnamed value, here and below. The language in force stays.
+  /// What can't be written is dropped.
+  virtual void SetLangToRegistries(std::u16string_view path, std::u16string_view name, Long id);
+
   /// Reads a language file over the built-in texts, whatever language is in force; `lang` stays as it is.
   virtual void LoadXMLFile(std::u16string_view path);
+
+  /// Takes the folder of the language files from the machine's settings: a text of up to 1000 bytes at a key
+  /// below HKEY_LOCAL_MACHINE, up to its first character that is a control character or has two bytes. Empty,
+  /// also over a folder set before, where it can't be read.
+  virtual void SetResourcesPathFromRegistry(std::u16string_view path, std::u16string_view name);
 
   /// The folder of the language files; empty is the root.
   virtual void resourcesPath(std::u16string_view folder);
@@ -70,6 +80,9 @@ class TESSALY_API CResources {
 
   /// `lang` with 0.
   virtual void SetDefaultLang();
+
+  /// `lang` with the number that `SetLangToRegistries` stored; with 0 where there is none.
+  virtual void SetLangFromRegistries(std::u16string_view path, std::u16string_view name);
 
   /// Chooses by exact number: its file, or that of 2057, or the built-in texts as 2057, "English". 0 is the
   /// user's locale. Reads the file again where it is in force already.
@@ -98,6 +111,12 @@ class TESSALY_API CResources {
   virtual void AppendIndentation(platform::XmlDocument& document, platform::XmlNode& parent,
                                  Boolean newLineFirst, platform::XmlNode* node);
   virtual void ScanLanguageFiles();
+  virtual void SetRegistryPath(std::u16string_view path);
+  virtual String ReadRegistryString(std::u16string_view name, std::u16string_view defaultText) const;
+  virtual Long ReadRegistryLong(std::u16string_view name, Long defaultValue) const;
+  virtual void WriteRegistryLong(std::u16string_view name, Long value);
+  virtual void SelectRegistryRoot(Long selector);
+  virtual Boolean FileExists(std::u16string_view path) const;
 
  public:
   virtual ~CResources();

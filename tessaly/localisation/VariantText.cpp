@@ -3,18 +3,10 @@
 #include <array>
 #include <charconv>
 
-#include "tessaly/base/NumberText.h"
-#include "tessaly/platform/Core.h"
+#include "tessaly/platform/LocalNumber.h"
 
 namespace tessaly {
 namespace {
-
-String localNumberText(double number) {
-  String text = numberText(number);
-  const auto point = text.find(u'.');
-  if (point != String::npos) text.replace(point, 1, platform::core().locale->decimalSeparator());
-  return text;
-}
 
 /// A text's own characters, or those of a text made in `made`.
 struct TextIn {
@@ -22,7 +14,7 @@ struct TextIn {
 
   std::u16string_view operator()(const String& text) const { return text; }
   std::u16string_view operator()(Boolean value) const { return value ? u"True" : u"False"; }
-  std::u16string_view operator()(double value) const { return made = localNumberText(value); }
+  std::u16string_view operator()(double value) const { return made = platform::localNumberText(value); }
   std::u16string_view operator()(Long value) const { return made = decimal(value); }
 };
 

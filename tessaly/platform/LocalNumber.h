@@ -1,0 +1,11 @@
+#pragma once
+
+#include "tessaly/base/Types.h"
+
+namespace tessaly::platform {
+
+/// The number's plain decimal text with up to 15 digits and the user's decimal separator. Raises error 6 for
+/// an infinite value and for what is no number.
+String localNumberText(double number);
+
+}  // namespace tessaly::platform
