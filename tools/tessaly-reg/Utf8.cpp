@@ -1,0 +1,28 @@
+#include "tools/tessaly-reg/Utf8.h"
+
+#include "tessaly/base/Unicode.h"
+
+namespace tessaly::reg {
+
+std::optional<String> strictUtf8(std::string_view bytes) {
+  String text;
+  bool isSound = true;
+  unicode::appendUtf8(text, bytes, [&](unsigned char) {
+    isSound = false;
+    return unicode::kReplacement;
+  });
+  if (!isSound) return std::nullopt;
+  return text;
+}
+
+std::size_t firstFaultOf(std::string_view bytes) {
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    const auto front = unicode::frontOf(bytes.substr(at));
+    if (!front) break;
+    at += front->units;
+  }
+  return at;
+}
+
+}  // namespace tessaly::reg

@@ -1,0 +1,51 @@
+// tessaly-reg, the administrator's hand on the settings: the hives and the terminal behind the commands.
+
+#include <unistd.h>
+
+#include <exception>
+#include <iostream>
+
+#include "tessaly/platform/keys/HiveFile.h"
+#include "tools/tessaly-reg/Run.h"
+
+namespace {
+
+using tessaly::platform::hiveAt;
+using tessaly::platform::HiveReaders;
+using tessaly::reg::Arguments;
+using tessaly::reg::Stores;
+
+/// An answer other than yes or no is asked for again.
+std::optional<bool> ask(const std::string& question) {
+  if (isatty(STDIN_FILENO) == 0) return std::nullopt;
+  for (std::string answer; std::cerr << question << std::flush, std::getline(std::cin, answer);) {
+    if (answer == "y" || answer == "Y" || answer == "yes" || answer == "Yes" || answer == "YES") return true;
+    if (answer == "n" || answer == "N" || answer == "no" || answer == "No" || answer == "NO") return false;
+  }
+  std::cerr << '\n';
+  return false;
+}
+
+Stores openStores(const Arguments& arguments) {
+  Stores stores;
+  stores.machine.file =
+      arguments.machineFile ? *arguments.machineFile : tessaly::platform::machineHivePath().string();
+  stores.machine.store = hiveAt(stores.machine.file, HiveReaders::Everybody);
+  stores.user.file = arguments.userFile ? *arguments.userFile : tessaly::platform::userHivePath().string();
+  stores.user.store = hiveAt(stores.user.file, HiveReaders::Owner);
+  stores.userName = tessaly::platform::registryUserName();
+  return stores;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    std::ios::sync_with_stdio(false);
+    const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
+    return tessaly::reg::run(words, {std::cout, std::cerr, ask, openStores});
+  } catch (const std::exception& error) {
+    std::cerr << "tessaly-reg: " << error.what() << '\n';
+    return tessaly::reg::kFailed;
+  }
+}
