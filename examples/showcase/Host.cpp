@@ -1,10 +1,29 @@
 #include "examples/showcase/Host.h"
 
+#include "tessaly/settings/CRegistry.h"
+
 namespace showcase {
+namespace {
+
+tessaly::CRegistry machineSettings() {
+  constexpr tessaly::Long localMachine = 0;
+  tessaly::CRegistry settings;
+  settings.root(localMachine);
+  settings.rootPath(kMachineKey);
+  return settings;
+}
+
+}  // namespace
+
+tessaly::String languagesFolder() { return machineSettings().GetString(kFolderValue, kLanguagesFolder); }
 
 void start(tessaly::CResources& resources) {
   resources.applicationGUID(kApplicationGUID);
-  resources.resourcesPath(kLanguagesFolder);
+  if (machineSettings().StringKeyExists(kFolderValue)) {
+    resources.SetResourcesPathFromRegistry(kMachineKey, kFolderValue);
+  } else {
+    resources.resourcesPath(kLanguagesFolder);
+  }
 }
 
 std::vector<tessaly::Long> languages(tessaly::CResources& resources) {

@@ -29,6 +29,15 @@ enum Text : tessaly::Long {
   SaveChanges = 154,
 };
 
+/// Where the settings are: the folder of the language files for the machine, the language for the user.
+inline constexpr std::u16string_view kMachineKey = u"SOFTWARE\\BRAMWELD SYSTEM\\Tessaly";
+inline constexpr std::u16string_view kFolderValue = u"Resources";
+inline constexpr std::u16string_view kUserKey = u"Software\\BRAMWELD SYSTEM\\Tessaly Reports";
+inline constexpr std::u16string_view kLanguageValue = u"Language";
+
+/// The folder of the language files by the machine's settings, or the showcase's own where they tell none.
+tessaly::String languagesFolder();
+
 /// Gives a catalogue the showcase's identity and folder.
 void start(tessaly::CResources& resources);
 

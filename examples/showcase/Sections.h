@@ -6,6 +6,7 @@
 /// The parts of the demonstration, one source each.
 namespace showcase {
 
+void showSettings(const Screen& screen);
 void showLanguages(const Screen& screen, tessaly::CResources& resources);
 void showForms(const Screen& screen, tessaly::CResources& resources);
 void showValues(const Screen& screen, tessaly::CResources& resources);

@@ -35,13 +35,14 @@ int demonstrate(const Screen& screen) {
   CResources resources;
   showcase::start(resources);
   if (resources.numberOfLangs() == 0) {
-    screen.line(u"No language files in " + String(showcase::kLanguagesFolder) +
+    screen.line(u"No language files in " + showcase::languagesFolder() +
                 u": start the showcase in the project's folder.");
     return kFailure;
   }
   screen.line(u"Tessaly Reports, a host that speaks", showcase::Style::Heading);
   screen.line(u"175 texts, in built-in English and in " + textOf(resources.numberOfLangs()) +
-              u" language files of " + String(showcase::kLanguagesFolder));
+              u" language files of " + showcase::languagesFolder());
+  showSettings(screen);
   showLanguages(screen, resources);
   showForms(screen, resources);
   showValues(screen, resources);
