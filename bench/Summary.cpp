@@ -1,20 +1,22 @@
 #include "bench/Summary.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iomanip>
+#include <limits>
 #include <ostream>
 
 namespace tessaly::bench {
 namespace {
 
-constexpr int kNameWidth = 44;
+constexpr int kNameWidth = 60;
 constexpr int kColumnWidth = 12;
 
 bool isLimit(const std::string& name) { return name.rfind("limit: ", 0) == 0; }
 
-/// Processor time; a benchmark that takes its times itself reports them as real time.
+/// Processor time, unless the benchmark takes its times itself or asks for real time.
 double timeOf(const benchmark::BenchmarkReporter::Run& run) {
-  return run.run_name.time_type == "manual_time" ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+  return run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime();
 }
 
 }  // namespace
@@ -31,7 +33,9 @@ void Summary::ReportRuns(const std::vector<Run>& runs) {
     } else if (run.run_type == Run::RT_Iteration) {
       const std::string& name = run.run_name.function_name;
       const auto slash = name.find('/');
-      timesByGroup_[name.substr(0, slash)][name.substr(slash + 1)].push_back(timeOf(run));
+      auto& timesByName = timesByGroup_[name.substr(0, slash)];
+      if (run.counters.empty()) timesByName[name.substr(slash + 1)].push_back(timeOf(run));
+      for (const auto& [counter, time] : run.counters) timesByName[counter].push_back(time);
     }
   }
 }
@@ -40,8 +44,10 @@ void Summary::Finalize() {
   for (const auto& [group, timesByName] : timesByGroup_) {
     std::vector<Row> rows;
     for (const auto& [name, times] : timesByName) rows.push_back(rowOf(name, times));
+    for (const Row& row : rows) medians_[group + '/' + row.name] = row.median;
     print(group, std::move(rows));
   }
+  if (!goals_.empty()) printGoals();
 }
 
 Summary::Row Summary::rowOf(const std::string& name, std::vector<double> times) {
@@ -63,6 +69,26 @@ void Summary::print(const std::string& group, std::vector<Row> rows) {
     out << "  " << std::left << std::setw(kNameWidth - 2) << row.name << std::right << std::setprecision(1);
     out << column << row.median << column << row.least << std::setprecision(2);
     out << column << row.median / limit.median << column << row.least / limit.least << '\n';
+  }
+}
+
+/// A goal whose benchmarks did not run is left out.
+void Summary::printGoals() {
+  std::ostream& out = GetOutputStream();
+  out << '\n' << std::left << std::setw(kNameWidth) << "goal" << std::right;
+  out << std::setw(kColumnWidth) << "ratio" << std::setw(kColumnWidth) << "at most" << '\n';
+  for (const Goal& goal : goals_) {
+    double base = std::numeric_limits<double>::infinity();
+    for (const std::string& other : goal.others) {
+      if (const auto found = medians_.find(other); found != medians_.end())
+        base = std::min(base, found->second);
+    }
+    const auto row = medians_.find(goal.row);
+    if (row == medians_.end() || !std::isfinite(base)) continue;
+    const double ratio = row->second / base;
+    out << "  " << std::left << std::setw(kNameWidth - 2) << goal.what << std::right << std::setprecision(3);
+    out << std::setw(kColumnWidth) << ratio << std::setw(kColumnWidth) << goal.atMost;
+    out << (ratio <= goal.atMost ? "   reached\n" : "   missed\n");
   }
 }
 

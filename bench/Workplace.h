@@ -5,9 +5,10 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/Folder.h"
 #include "tessaly/base/Types.h"
 
-/// What all benchmarks of the area stand on: the same texts for everybody, and a folder for what peers need.
+/// What all benchmarks of the area stand on: the same texts for everybody.
 namespace tessaly::bench {
 
 /// A language file of the showcase, such as "german.xml".
@@ -22,16 +23,5 @@ const std::vector<String>& englishTexts();
 
 /// The same in UTF-8, for peers that work in it.
 std::vector<std::string> inUtf8(const std::vector<String>& texts);
-
-/// A new folder within a temporary one that goes when the program ends.
-std::filesystem::path newFolder(std::string_view name);
-
-void writeFile(const std::filesystem::path& path, std::string_view bytes);
-
-/// Runs a peer's own compiler; ends the program with a message where it fails.
-void runTool(const std::string& command);
-
-/// All bytes of a file by the shortest way there is.
-std::string readFile(const std::filesystem::path& path);
 
 }  // namespace tessaly::bench
