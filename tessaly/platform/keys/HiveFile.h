@@ -37,8 +37,8 @@ struct HiveRepair {
 };
 
 /// Puts what can be read of a damaged hive into a new one in its place; the damaged file is kept beside it,
-/// as `damaged`. Keys whose parents are lost come back under the key "Lost and found". Gives a number of
-/// `registry_result`.
+/// as `damaged`, which stays empty where nothing is wrong. A hive of a later version is `kNotAHive`. Keys
+/// whose parents are lost come back under the key "Lost and found". Gives a number of `registry_result`.
 Long repairHive(const std::filesystem::path& path, HiveRepair& repair);
 
 }  // namespace tessaly::platform

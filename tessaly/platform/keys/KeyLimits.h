@@ -10,7 +10,8 @@ inline constexpr std::size_t kLongestValueName = 16383;
 inline constexpr std::size_t kDeepestPath = 512;
 inline constexpr std::size_t kLargestValue = 1 << 20;
 
-/// `kInvalidParameter` for a name that is too long, `kNoResources` for too large a value, else `kSuccess`.
+/// `kInvalidParameter` for a name that is too long or has half of a surrogate pair, `kNoResources` for too
+/// large a value, else `kSuccess`.
 Long checkPath(KeyPath path);
 Long checkValueName(std::u16string_view name);
 Long checkValue(const KeyValue& value);

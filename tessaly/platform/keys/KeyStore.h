@@ -42,6 +42,9 @@ struct KeyStore {
   /// A number that changes whenever something that was read here may have changed, by whomever.
   virtual std::uint64_t revision() = 0;
 
+  /// Likewise for which keys there are; values alone don't change it.
+  virtual std::uint64_t keyRevision() { return revision(); }
+
   /// Whether a change has any hope.
   virtual bool isWritable() = 0;
 

@@ -1,6 +1,7 @@
 #include "tessaly/platform/keys/MemoryKeys.h"
 
 #include "tessaly/platform/Core.h"
+#include "tessaly/platform/keys/KeyLimits.h"
 
 namespace tessaly::platform {
 namespace {
@@ -48,6 +49,10 @@ Long MemoryKeys::descend(Id from, KeyPath path, bool make, Id& key) {
 Long MemoryKeys::find(Id from, KeyPath path, Id& key) { return descend(from, path, false, key); }
 
 Long MemoryKeys::create(Id from, KeyPath path, Id& key) {
+  std::size_t depth = path.size();
+  for (const Key* outer = keyOf(from); outer != nullptr; outer = keyOf(outer->parent)) ++depth;
+  // The root, which was counted too, is no level.
+  if (depth > kDeepestPath + 1) return kInvalidParameter;
   const Long result = descend(from, path, writable_, key);
   return result == kNotFound ? kAccessDenied : result;
 }

@@ -15,8 +15,8 @@ std::size_t slotOf(RegistryKey key) {
 
 RegistryKey OpenKeys::add(const OpenKey& key) {
   if (free_.empty()) {
-    free_.push_back(slots_.size());
     slots_.emplace_back();
+    free_.push_back(slots_.size() - 1);
   }
   const std::size_t slot = free_.back();
   free_.pop_back();

@@ -17,6 +17,10 @@ bool isLasting(Long result) {
 
 std::size_t sizeOf(const KeyValue& value) { return value.text.size() * 2 + value.bytes.size(); }
 
+std::size_t costOf(std::string_view name, const KeyValue& value) {
+  return sizeOf(value) + name.size() + kCostOfEntry;
+}
+
 }  // namespace
 
 std::size_t ReadCopy::Hash::operator()(const Spelling& spelling) const {
@@ -44,12 +48,12 @@ void ReadCopy::makeRoom(std::size_t size) {
 const ReadCopy::Key* ReadCopy::key(RegistryKey root, std::string_view path) {
   const auto found = keys_.find(spelled(nullptr, root, path));
   if (found == keys_.end()) return nullptr;
-  return found->second.revision == found->second.store->revision() ? &found->second : nullptr;
+  return found->second.revision == found->second.store->keyRevision() ? &found->second : nullptr;
 }
 
 void ReadCopy::keep(RegistryKey root, std::string_view path, const Key& key) {
   if (!isLasting(key.result)) return;
-  makeRoom(path.size() + kCostOfEntry);
+  if (keys_.find(spelled(nullptr, root, path)) == keys_.end()) makeRoom(path.size() + kCostOfEntry);
   keys_.insert_or_assign(kept(spelled(nullptr, root, path)), key);
 }
 
@@ -64,15 +68,17 @@ const ReadCopy::Value& ReadCopy::value(KeyStore& store, KeyStore::Id key, std::s
   passing_.result = store.value(key, fromAnsi(name), passing_.value);
   const std::size_t size = sizeOf(passing_.value);
   if (size > kLargestKept || !isLasting(passing_.result)) return passing_;
-  makeRoom(size + name.size() + kCostOfEntry);
+  if (found != values_.end()) keptSize_ -= costOf(name, found->second.value);
+  makeRoom(costOf(name, passing_.value));
   return values_.insert_or_assign(kept(spelling), passing_).first->second;
 }
 
 Long ReadCopy::subkeys(KeyStore& store, KeyStore::Id key, const std::vector<String>*& names) {
-  const std::uint64_t revision = store.revision();
+  const std::uint64_t revision = store.keyRevision();
   names = &listing_.names;
   if (listing_.store == &store && listing_.key == key && listing_.revision == revision)
     return registry_result::kSuccess;
+  listing_.store = nullptr;
   const Long result = store.subkeys(key, listing_.names);
   listing_.store = result == registry_result::kSuccess ? &store : nullptr;
   listing_.key = key;

@@ -9,7 +9,7 @@
 
 namespace tessaly::platform {
 
-/// What has been read of the stores, good as long as the store's revision stands. Keys and values are kept by
+/// What has been read of the stores, good as long as the store's revisions stand. Keys and values are kept by
 /// their paths and names as a caller spelled them. What is asked for is read where it is not kept; nothing is
 /// read ahead.
 class ReadCopy {

@@ -63,7 +63,7 @@ ReadCopy::Key StoredRegistry::belowPredefined(RegistryKey root, std::string_view
   key.store = there.store;
   key.result = kNotFound;
   if (key.store == nullptr) return key;
-  key.revision = key.store->revision();
+  key.revision = key.store->keyRevision();
   key.result = key.store->find(there.from, there.names, key.id);
   copy_.keep(root, path, key);
   return key;

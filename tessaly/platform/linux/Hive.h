@@ -19,6 +19,7 @@ class Hive final : public KeyStore {
   void abandon();
 
   std::uint64_t revision() override;
+  std::uint64_t keyRevision() override;
   bool isWritable() override { return file_.mayWrite(); }
   Long find(Id from, KeyPath path, Id& key) override;
   Long create(Id from, KeyPath path, Id& key) override;
@@ -30,24 +31,30 @@ class Hive final : public KeyStore {
   Long values(Id key, std::vector<NamedValue>& values) override;
   Long transact(const std::function<Long()>& changes) override;
 
+  /// Within this class: there is no hive, or it has no tables yet.
+  static constexpr Long kNothing = -1;
+
  private:
   using Clock = std::chrono::steady_clock;
   class Changing;
   using Work = std::function<Long()>;
+  enum class Touches { Keys, Values };
 
+  void look();
   void changed();
+  void mark();
   void disconnect();
+  bool isStale() const;
   Long connect();
   Long openFile();
   Long lookForTables();
   Long connectToCopy();
   Long read(const Work& work);
   Long readNow(const Work& work);
-  Long write(const Work& work);
-  Long writeNow(const Work& work);
-  Long change(const Work& work);
+  Long write(const Work& work, Touches touches);
+  Long writeNow(const Work& work, Touches touches);
+  Long change(const Work& work, Touches touches);
   Long checkSoundness();
-  void markWithin();
   Long descend(Id from, KeyPath path, Id& key);
   Long descendAndMake(Id from, KeyPath path, Id& key);
 
@@ -55,7 +62,9 @@ class Hive final : public KeyStore {
   sqlite::Database copy_;
   std::unique_ptr<HiveRows> rows_;
   std::uint64_t revision_ = 1;
+  std::uint64_t keyRevision_ = 1;
   Clock::time_point looked_;
+  Clock::time_point lookedAtPlace_;
   bool isEmpty_ = false;
   bool isSound_ = false;
   bool isInTransaction_ = false;

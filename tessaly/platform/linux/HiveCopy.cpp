@@ -1,5 +1,9 @@
 #include "tessaly/platform/linux/HiveCopy.h"
 
+#include <sys/stat.h>
+
+#include <array>
+#include <cstdint>
 #include <cstdlib>
 #include <fstream>
 #include <vector>
@@ -25,6 +29,23 @@ bool copyFile(sqlite3_file& hive, const std::filesystem::path& target) {
   return static_cast<bool>(out.flush());
 }
 
+using FileState = std::array<std::int64_t, 4>;
+
+/// What changes when a file does; nothing where there is none.
+FileState stateOf(const std::filesystem::path& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) return {};
+  return {static_cast<std::int64_t>(status.st_ino), status.st_size, status.st_mtim.tv_sec,
+          status.st_mtim.tv_nsec};
+}
+
+int copyPages(sqlite3* from, sqlite3* to) {
+  sqlite3_backup* const backup = sqlite3_backup_init(to, "main", from, "main");
+  if (backup == nullptr) return sqlite3_extended_errcode(to);
+  sqlite3_backup_step(backup, -1);
+  return sqlite3_backup_finish(backup);
+}
+
 }  // namespace
 
 PrivateFolder::PrivateFolder() {
@@ -38,22 +59,34 @@ PrivateFolder::~PrivateFolder() {
   if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
 }
 
-bool copyHive(sqlite3_file& hive, const std::filesystem::path& path, const std::filesystem::path& target) {
+Long copyHive(HiveFile& hive, const std::filesystem::path& target) {
+  if (sqlite::run(hive.database(), "BEGIN; PRAGMA user_version") == SQLITE_OK) {
+    // While this transaction lasts nobody changes the file, and whoever was interrupted is taken back.
+    const bool isCopied = copyFile(*hive.file(), target);
+    sqlite::run(hive.database(), "ROLLBACK");
+    return isCopied ? kSuccess : kIoFailed;
+  }
+  sqlite::run(hive.database(), "ROLLBACK");
+  const std::filesystem::path journal = journalOf(hive.realPath());
+  const FileState before = stateOf(journal);
   std::error_code error;
-  const bool hasJournal = std::filesystem::exists(journalOf(path), error);
-  return copyFile(hive, target) &&
-         (!hasJournal || std::filesystem::copy_file(journalOf(path), journalOf(target), error));
+  const bool isCopied =
+      copyFile(*hive.file(), target) &&
+      (before == FileState() || std::filesystem::copy_file(journal, journalOf(target), error));
+  if (!hive.isAsMarked() || stateOf(journal) != before) return kBusy;
+  return isCopied ? kSuccess : kIoFailed;
 }
 
-Long openPrivateCopy(sqlite3_file& hive, const std::filesystem::path& path, sqlite::Database& copy) {
+Long openPrivateCopy(HiveFile& hive, sqlite::Database& copy) {
   const PrivateFolder folder;
   if (folder.path().empty()) return kIoFailed;
   const std::filesystem::path target = folder.path() / "copy.hive";
-  if (!copyHive(hive, path, target)) return kIoFailed;
-  if (const int code = sqlite::open(target, SQLITE_OPEN_READWRITE, copy); code != SQLITE_OK)
-    return sqlite::resultOf(code);
-  // The first look plays the journal back, while the folder is still there.
-  return sqlite::resultOf(sqlite::run(copy.get(), "PRAGMA schema_version"));
+  if (const Long failure = copyHive(hive, target); failure != kSuccess) return failure;
+  sqlite::Database onDisk;
+  int code = sqlite::open(target, SQLITE_OPEN_READWRITE, onDisk);
+  if (code == SQLITE_OK) code = sqlite::open(":memory:", SQLITE_OPEN_READWRITE, copy);
+  if (code == SQLITE_OK) code = copyPages(onDisk.get(), copy.get());
+  return sqlite::resultOf(code);
 }
 
 }  // namespace tessaly::platform

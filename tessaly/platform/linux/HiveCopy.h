@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "tessaly/platform/linux/HiveFile.h"
 #include "tessaly/platform/linux/Sqlite.h"
 
 namespace tessaly::platform {
@@ -21,12 +22,12 @@ class PrivateFolder {
   std::filesystem::path path_;
 };
 
-/// Copies a hive, read through SQLite's own object of the open file, and its journal if there is one.
-bool copyHive(sqlite3_file& hive, const std::filesystem::path& path, const std::filesystem::path& target);
+/// Copies a hive as it stands in one moment. Where an interrupted write is in it that this process may not
+/// take back, the journal that does so comes too. The caller has the file's state marked; `kBusy` where the
+/// file changed since.
+Long copyHive(HiveFile& hive, const std::filesystem::path& target);
 
-/// Opens a private copy of a hive and its journal, in which an interrupted write is taken back; for a reader
-/// who may not do so in the hive itself. `hive` is SQLite's own object of the open file. The copy has no name
-/// any more when this returns. It is sound only if the hive did not change meanwhile, which the caller sees.
-Long openPrivateCopy(sqlite3_file& hive, const std::filesystem::path& path, sqlite::Database& copy);
+/// A copy in memory in which an interrupted write is taken back, on the same terms.
+Long openPrivateCopy(HiveFile& hive, sqlite::Database& copy);
 
 }  // namespace tessaly::platform

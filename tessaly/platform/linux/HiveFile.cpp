@@ -1,5 +1,6 @@
 #include "tessaly/platform/linux/HiveFile.h"
 
+#include <endian.h>
 #include <fcntl.h>
 
 #include <array>
@@ -14,12 +15,16 @@ namespace {
 using namespace registry_result;
 using Clock = std::chrono::steady_clock;
 
+constexpr int kMostTries = 3;
 constexpr int kCounterPlace = 24;
 constexpr int kVersionsPlace = 18;
 constexpr char kJournalVersion = 1;
 constexpr const char* kSettings =
     "PRAGMA journal_mode=PERSIST; PRAGMA synchronous=FULL; PRAGMA journal_size_limit=1048576; "
     "PRAGMA secure_delete=ON";
+
+/// The counter stands in the file with its high byte first.
+std::uint32_t numberOf(std::uint32_t counter) { return be32toh(counter); }
 
 bool isSameFile(const struct stat& left, const struct stat& right) {
   return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
@@ -32,12 +37,20 @@ HiveFile::HiveFile(std::filesystem::path path, HiveReaders readers)
 
 Long HiveFile::open() {
   if (database_ != nullptr && !isInPlace()) close();
-  return database_ != nullptr ? kSuccess : openDatabase();
+  Long result = database_ != nullptr ? kSuccess : kBusy;
+  // The file may be replaced between the two times that it is opened.
+  for (int tries = 0; result == kBusy && tries < kMostTries; ++tries) result = openDatabase();
+  return result;
 }
 
-Long HiveFile::make() {
-  const Long failure = makeFolder(path_.parent_path(), readers_);
-  return failure == kSuccess ? makeFile(path_, mode()) : failure;
+Long HiveFile::makeFolder() {
+  return isOpen() ? kSuccess : platform::makeFolder(path_.parent_path(), readers_);
+}
+
+Long HiveFile::make() { return makeFile(path_, mode()); }
+
+std::filesystem::path HiveFile::realPath() const {
+  return isOpen() ? realPath_ : std::filesystem::weakly_canonical(path_);
 }
 
 Long HiveFile::openDatabase() {
@@ -54,6 +67,7 @@ Long HiveFile::openDatabase() {
   }
   sqlite3_file_control(database_.get(), "main", SQLITE_FCNTL_FILE_POINTER, &file_);
   sqlite3_busy_handler(database_.get(), &HiveFile::wait, this);
+  realPath_ = sqlite3_db_filename(database_.get(), "main");
   return kSuccess;
 }
 
@@ -114,14 +128,24 @@ void HiveFile::mark() {
   isMarked_ = true;
 }
 
-bool HiveFile::mayWrite() const { return mayWriteFile(path_); }
+bool HiveFile::changedWithoutCount() const {
+  const State now = state();
+  return now != marked_ && now.counter == marked_.counter;
+}
 
-void HiveFile::waitFor(std::chrono::milliseconds longest) { longestWait_ = longest; }
+bool HiveFile::markNext() {
+  const State before = marked_;
+  mark();
+  return marked_.inode == before.inode && numberOf(marked_.counter) == numberOf(before.counter) + 1;
+}
+
+bool HiveFile::mayWrite() const { return mayWriteFile(path_); }
 
 /// SQLite's own way of waiting sleeps up to a tenth of a second, and a commit takes a hundredth of that.
 int HiveFile::wait(void* file, int count) {
   auto* self = static_cast<HiveFile*>(file);
-  if (count == 0) self->waitEnd_ = Clock::now() + self->longestWait_;
+  const bool isChanging = self->changeEnd_ != Clock::time_point();
+  if (count == 0) self->waitEnd_ = isChanging ? self->changeEnd_ : Clock::now() + kLongestRead;
   std::this_thread::sleep_for(std::chrono::microseconds(count < 20 ? 100 : 1000));
   return Clock::now() < self->waitEnd_ ? 1 : 0;
 }

@@ -12,7 +12,7 @@
 
 namespace tessaly::platform {
 
-/// How long a reader waits for a writer to end, and a writer for all others.
+/// How long a reader waits for a writer to end, and a writer for all others together.
 inline constexpr std::chrono::seconds kLongestRead(5);
 inline constexpr std::chrono::seconds kLongestWrite(30);
 
@@ -24,13 +24,21 @@ class HiveFile {
   const std::filesystem::path& path() const { return path_; }
   sqlite3* database() const { return database_.get(); }
 
+  bool isOpen() const { return database_ != nullptr; }
+
+  /// The path without links, beside which SQLite has its journal.
+  std::filesystem::path realPath() const;
+
   /// SQLite's own object of the open file.
   sqlite3_file* file() const { return file_; }
 
   /// Opens the file. `kNotFound` where there is none.
   Long open();
 
-  /// Makes the folder and an empty file where they are missing.
+  /// Makes the folder where it is missing.
+  Long makeFolder();
+
+  /// Makes an empty file where none is.
   Long make();
 
   /// A file of SQLite's other journal mode would have files made beside it by being looked at.
@@ -56,6 +64,13 @@ class HiveFile {
 
   bool isMarked() const { return isMarked_; }
 
+  /// Remembers the state, and tells whether one commit alone has led to it from the one remembered before.
+  bool markNext();
+
+  /// Whether the file has changed since it was last remembered, and its change counter has not: it was put
+  /// back, and SQLite would take what it has kept of it for good.
+  bool changedWithoutCount() const;
+
   /// Forgets the state: from now on the file counts as changed.
   void unmark() { isMarked_ = false; }
 
@@ -65,8 +80,8 @@ class HiveFile {
   /// The mode of files that are made.
   unsigned mode() const { return readers_ == HiveReaders::Owner ? 0600 : 0644; }
 
-  /// How long SQLite waits for locks from now on.
-  void waitFor(std::chrono::milliseconds longest);
+  /// When SQLite's waiting for locks ends from now on; without a time it is `kLongestRead` for each.
+  void waitUntil(std::chrono::steady_clock::time_point end) { changeEnd_ = end; }
 
  private:
   /// What changes when a file does.
@@ -92,8 +107,9 @@ class HiveFile {
   State marked_;
   bool isMarked_ = false;
   bool isPrepared_ = false;
+  std::filesystem::path realPath_;
   std::chrono::steady_clock::time_point waitEnd_;
-  std::chrono::milliseconds longestWait_{kLongestRead};
+  std::chrono::steady_clock::time_point changeEnd_;
 };
 
 }  // namespace tessaly::platform

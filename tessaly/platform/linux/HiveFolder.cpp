@@ -18,6 +18,15 @@ std::filesystem::path parentOf(const std::filesystem::path& path) {
   return parent.empty() ? "." : parent;
 }
 
+/// Gives what was just made its mode, and where root makes it in somebody's folder, that owner.
+bool settle(const Descriptor& made, mode_t mode, const std::filesystem::path& folder) {
+  struct stat status {};
+  if (geteuid() == 0 && stat(folder.c_str(), &status) == 0 && status.st_uid != 0 &&
+      fchown(made.get(), status.st_uid, status.st_gid) != 0)
+    return false;
+  return fchmod(made.get(), mode) == 0;
+}
+
 bool isMissing(const std::filesystem::path& path) {
   return access(path.c_str(), F_OK) != 0 && errno == ENOENT;
 }
@@ -56,14 +65,15 @@ Long makeFolder(const std::filesystem::path& folder, HiveReaders readers) {
   }
   const mode_t mode = readers == HiveReaders::Owner ? 0700 : 0755;
   if (mkdir(folder.c_str(), mode) != 0) return errno == EEXIST ? kSuccess : resultOfErrno(errno);
-  chmod(folder.c_str(), mode);
+  const Descriptor made(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (!made.isOpen() || !settle(made, mode, parentOf(folder))) return resultOfErrno(errno);
   return syncFolder(parentOf(folder));
 }
 
 Long makeFile(const std::filesystem::path& path, unsigned mode) {
-  const Descriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+  const Descriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
   if (!file.isOpen()) return errno == EEXIST ? kSuccess : resultOfErrno(errno);
-  if (fchmod(file.get(), mode) != 0 || fsync(file.get()) != 0) return resultOfErrno(errno);
+  if (!settle(file, mode, parentOf(path)) || fsync(file.get()) != 0) return resultOfErrno(errno);
   return syncFolder(parentOf(path));
 }
 

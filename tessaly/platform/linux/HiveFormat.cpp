@@ -116,6 +116,20 @@ Long checkTables(sqlite3* database) {
   return checkSchema(database);
 }
 
+bool isPossible(const KeyRow& key) {
+  const bool isOfKeys = key.id > KeyStore::kRoot && key.parent >= KeyStore::kRoot && key.id != key.parent;
+  return isOfKeys && !key.name.empty() && key.name.find('\\') == std::string::npos;
+}
+
+std::uint32_t versionOf(std::string_view file) {
+  constexpr std::size_t place = 60;
+  std::uint32_t version = 0;
+  for (const char byte : file.substr(std::min(place, file.size()), sizeof version)) {
+    version = version << 8 | static_cast<unsigned char>(byte);
+  }
+  return version;
+}
+
 bool isMarkedAsHive(std::string_view file) {
   constexpr std::string_view magic("SQLite format 3\0", 16);
   constexpr std::size_t place = 68;
@@ -125,7 +139,7 @@ bool isMarkedAsHive(std::string_view file) {
 
 bool readRow(const sqlite::Statement& row, KeyRow& key) {
   key = {row.number(0), std::string(row.bytes(1)), std::string(row.bytes(2)), row.number(3)};
-  return row.number(4) == sumOf(key);
+  return row.number(4) == sumOf(key) && isPossible(key);
 }
 
 bool readRow(const sqlite::Statement& row, ValueRow& value) {

@@ -19,6 +19,9 @@ int makeTables(sqlite3* database);
 /// `kSuccess` for a hive, `kNotFound` for an empty file, otherwise why it is none.
 Long checkTables(sqlite3* database);
 
+/// The version that a file's first bytes tell.
+std::uint32_t versionOf(std::string_view file);
+
 /// Whether a file's first bytes say that it is a hive, of whatever version.
 bool isMarkedAsHive(std::string_view file);
 
@@ -43,6 +46,9 @@ struct ValueRow {
 /// The sum that is written with a row: what changes one of its bytes changes the sum.
 std::int64_t sumOf(const KeyRow& row);
 std::int64_t sumOf(const ValueRow& row);
+
+/// Whether a key can be so at all; who forges a row may give it its sum.
+bool isPossible(const KeyRow& key);
 
 /// Whether the row has the sum that was written with it. The columns stand in the order of the tables.
 bool readRow(const sqlite::Statement& row, KeyRow& key);

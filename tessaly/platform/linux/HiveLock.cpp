@@ -1,9 +1,11 @@
 #include "tessaly/platform/linux/HiveLock.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
+#include <cerrno>
 #include <thread>
+
+#include "tessaly/platform/linux/HiveFolder.h"
 
 namespace tessaly::platform {
 namespace {
@@ -24,30 +26,27 @@ bool changeLock(int file, off_t place, short type) {
 }
 
 /// The kernel's own waiting has no bound, so this asks again and again.
-bool lockUntil(int file, off_t place, Clock::time_point end) {
+Long lockUntil(int file, off_t place, Clock::time_point end) {
   while (!changeLock(file, place, F_WRLCK)) {
-    if (Clock::now() >= end) return false;
+    const bool isTaken = errno == EAGAIN || errno == EACCES || errno == EINTR;
+    if (!isTaken) return registry_result::kIoFailed;
+    if (Clock::now() >= end) return registry_result::kBusy;
     std::this_thread::sleep_for(kPause);
   }
-  return true;
-}
-
-Descriptor openLock(const std::string& path, unsigned mode) {
-  constexpr int flags = O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY;
-  Descriptor file(open(path.c_str(), flags));
-  if (file.isOpen()) return file;
-  file = Descriptor(open(path.c_str(), flags | O_CREAT, mode));
-  if (file.isOpen()) fchmod(file.get(), mode);
-  return file;
+  return registry_result::kSuccess;
 }
 
 }  // namespace
 
-HiveLock::HiveLock(const std::string& path, unsigned mode, std::chrono::milliseconds longest)
-    : file_(openLock(path, mode)) {
-  const auto end = Clock::now() + longest;
-  if (!file_.isOpen() || !lockUntil(file_.get(), kTurn, end)) return;
-  held_ = lockUntil(file_.get(), kWork, end);
+HiveLock::HiveLock(const std::filesystem::path& hive, unsigned mode, Clock::time_point end) {
+  std::filesystem::path path = hive;
+  path += "-lock";
+  failure_ = makeFile(path, mode);
+  if (failure_ != registry_result::kSuccess) return;
+  file_ = Descriptor(open(path.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NOCTTY));
+  failure_ = file_.isOpen() ? lockUntil(file_.get(), kTurn, end) : resultOfErrno(errno);
+  if (failure_ != registry_result::kSuccess) return;
+  failure_ = lockUntil(file_.get(), kWork, end);
   changeLock(file_.get(), kTurn, F_UNLCK);
 }
 

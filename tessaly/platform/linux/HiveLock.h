@@ -1,8 +1,9 @@
 #pragma once
 
 #include <chrono>
-#include <string>
+#include <filesystem>
 
+#include "tessaly/platform/Registry.h"
 #include "tessaly/platform/linux/Descriptor.h"
 
 namespace tessaly::platform {
@@ -11,16 +12,16 @@ namespace tessaly::platform {
 /// before it. A process that dies lets go.
 class HiveLock {
  public:
-  /// Waits its turn, no longer than told; the file is made with the mode where it is missing.
-  HiveLock(const std::string& path, unsigned mode, std::chrono::milliseconds longest);
+  /// Waits for its turn until `end`. The file beside the hive is made with the mode where it is missing, for
+  /// the hive's owner.
+  HiveLock(const std::filesystem::path& hive, unsigned mode, std::chrono::steady_clock::time_point end);
 
-  /// Whether there could be a file to lock.
-  bool isOpen() const { return file_.isOpen(); }
-  bool isHeld() const { return held_; }
+  /// `kSuccess` while the turn is held, `kBusy` where it did not come, or why there is nothing to hold.
+  Long failure() const { return failure_; }
 
  private:
   Descriptor file_;
-  bool held_ = false;
+  Long failure_ = registry_result::kSuccess;
 };
 
 }  // namespace tessaly::platform

@@ -67,9 +67,11 @@ std::size_t localSize(std::size_t payload) {
   return wanted <= most ? wanted : least;
 }
 
-std::optional<std::string> payloadOf(std::string_view file, Reader cell) {
+/// `budget` is what may still be read: a sound file has no more in its cells than it is large.
+std::optional<std::string> payloadOf(std::string_view file, Reader cell, std::size_t& budget) {
   const auto size = cell.varint();
-  if (!size || *size > kLargestPayload) return std::nullopt;
+  if (!size || *size > kLargestPayload || *size > budget) return std::nullopt;
+  budget -= *size;
   const auto local = cell.take(localSize(*size));
   if (!local) return std::nullopt;
   std::string payload(*local);
@@ -141,9 +143,10 @@ std::vector<Reader> cellsOf(std::string_view page, std::size_t start) {
 }  // namespace
 
 void forEachRow(std::string_view file, const std::function<void(const std::vector<PageColumn>&)>& found) {
+  std::size_t budget = 2 * file.size();
   for (std::uint64_t number = 1; number <= file.size() / kPageSize; ++number) {
     for (const Reader& cell : cellsOf(pageAt(file, number), number == 1 ? kFileHeader : 0)) {
-      const auto payload = payloadOf(file, cell);
+      const auto payload = payloadOf(file, cell, budget);
       if (payload) found(columnsOf(*payload));
     }
   }

@@ -19,6 +19,7 @@ using namespace registry_result;
 using Path = std::filesystem::path;
 
 constexpr std::size_t kMostFaults = 20;
+constexpr int kMostTries = 3;
 
 Path withEnding(Path name, std::string_view ending) { return name += ending; }
 
@@ -27,20 +28,40 @@ std::string bytesOf(const Path& file) {
   return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
+/// A copy of the hive as it stands in one moment.
+Long copySteadily(HiveFile& file, const Path& target) {
+  Long result = file.open();
+  if (result != kSuccess) return result;
+  result = kBusy;
+  for (int tries = 0; result == kBusy && tries < kMostTries; ++tries) {
+    file.mark();
+    result = copyHive(file, target);
+  }
+  return result;
+}
+
+Path copyIn(const PrivateFolder& folder) { return folder.path() / "copy.hive"; }
+
 /// The hive's bytes without what an interrupted write has left. Where the journal can't be played back the
 /// bytes come as they are.
 Long readWhole(HiveFile& file, std::string& bytes) {
-  if (const Long failure = file.open(); failure != kSuccess) return failure;
   const PrivateFolder folder;
-  const Path target = folder.path() / "copy.hive";
-  if (folder.path().empty() || !copyHive(*file.file(), file.path(), target)) return kIoFailed;
+  if (folder.path().empty()) return kIoFailed;
+  if (const Long failure = copySteadily(file, copyIn(folder)); failure != kSuccess) return failure;
   sqlite::Database copy;
-  if (sqlite::open(target, SQLITE_OPEN_READWRITE, copy) == SQLITE_OK) {
+  if (sqlite::open(copyIn(folder), SQLITE_OPEN_READWRITE, copy) == SQLITE_OK) {
     sqlite::run(copy.get(), "PRAGMA schema_version");
   }
   copy.reset();
-  bytes = bytesOf(target);
+  bytes = bytesOf(copyIn(folder));
   return kSuccess;
+}
+
+/// A version that can only come from damage is none.
+bool isOfLaterVersion(std::string_view bytes) {
+  constexpr std::uint32_t believable = 1000;
+  const std::uint32_t version = hive::versionOf(bytes);
+  return hive::isMarkedAsHive(bytes) && version > hive::kVersion && version < believable;
 }
 
 Long insertAll(const SalvagedRows& rows, sqlite3* database) {
@@ -56,16 +77,22 @@ Long insertAll(const SalvagedRows& rows, sqlite3* database) {
   return result == kSuccess ? into.commit() : result;
 }
 
-/// A new hive of the rows, with the owner and mode of the one whose place it will take.
+/// A file that is new and no link, with the owner and the rights of the one whose place it will take.
+Long makeLike(const Path& target, const struct stat& before) {
+  const Descriptor made(open(target.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+  if (!made.isOpen()) return resultOfErrno(errno);
+  const bool mayStay = before.st_uid == geteuid() || fchown(made.get(), before.st_uid, before.st_gid) == 0;
+  return mayStay && fchmod(made.get(), before.st_mode & 0666U) == 0 ? kSuccess : resultOfErrno(errno);
+}
+
 Long writeNew(const SalvagedRows& rows, const Path& target, const struct stat& before) {
   std::error_code ignored;
   std::filesystem::remove(target, ignored);
   std::filesystem::remove(withEnding(target, "-journal"), ignored);
-  if (const Long failure = makeFile(target, before.st_mode & 07777U); failure != kSuccess) return failure;
-  if (chown(target.c_str(), before.st_uid, before.st_gid) != 0 && before.st_uid != geteuid())
-    return kAccessDenied;
+  if (const Long failure = makeLike(target, before); failure != kSuccess) return failure;
   sqlite::Database database;
-  Long result = sqlite::resultOf(sqlite::open(target, SQLITE_OPEN_READWRITE, database));
+  Long result =
+      sqlite::resultOf(sqlite::open(target, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOFOLLOW, database));
   if (result == kSuccess) result = insertAll(rows, database.get());
   return result;
 }
@@ -82,7 +109,9 @@ Path freePath(const Path& wanted) {
 /// taken back to what stands in there.
 Long exchange(const Path& hive, const Path& made, const Path& damaged) {
   const Path journal = withEnding(hive, "-journal");
-  if (link(hive.c_str(), damaged.c_str()) != 0) return resultOfErrno(errno);
+  // Where a file can't have two names, there is none for the hive for a moment.
+  const bool isKept = link(hive.c_str(), damaged.c_str()) == 0 || rename(hive.c_str(), damaged.c_str()) == 0;
+  if (!isKept) return resultOfErrno(errno);
   if (rename(journal.c_str(), withEnding(damaged, "-journal").c_str()) != 0 && errno != ENOENT)
     return resultOfErrno(errno);
   if (rename(made.c_str(), hive.c_str()) != 0) return resultOfErrno(errno);
@@ -106,34 +135,39 @@ std::string wordsFor(Long result) {
 
 std::vector<std::string> hiveFaults(const std::filesystem::path& path) {
   HiveFile file(path, HiveReaders::Owner);
-  Long result = file.open();
-  if (result == kNotFound) return {};
+  const PrivateFolder folder;
+  const Long copied = folder.path().empty() ? kIoFailed : copySteadily(file, copyIn(folder));
+  if (copied == kNotFound) return {};
+  if (copied != kSuccess) return {wordsFor(copied)};
+  if (isOfLaterVersion(bytesOf(copyIn(folder)))) return {"it was made by a later version"};
   sqlite::Database copy;
-  if (result == kSuccess) result = openPrivateCopy(*file.file(), path, copy);
+  Long result = sqlite::resultOf(sqlite::open(copyIn(folder), SQLITE_OPEN_READWRITE, copy));
   if (result == kSuccess) result = hive::checkTables(copy.get());
   if (result == kNotFound) return {};
   std::vector<std::string> faults;
-  if (copy != nullptr && result != kNotAHive) faults = faultsOf(copy.get(), kMostFaults);
-  if (result != kSuccess && faults.empty()) faults.push_back(wordsFor(result));
+  if (result != kNotAHive) faults = faultsOf(copy.get(), kMostFaults);
+  if (result != kSuccess && faults.empty()) faults.emplace_back(wordsFor(result));
   return faults;
 }
 
 Long repairHive(const std::filesystem::path& path, HiveRepair& repair) {
+  const Path target = std::filesystem::weakly_canonical(path);
   struct stat before {};
-  if (stat(path.c_str(), &before) != 0) return resultOfErrno(errno);
-  HiveFile file(path, HiveReaders::Owner);
-  const HiveLock turn(withEnding(path, "-lock"), before.st_mode & 0666U, kLongestWrite);
-  if (!turn.isOpen()) return kAccessDenied;
-  if (!turn.isHeld()) return kBusy;
+  if (stat(target.c_str(), &before) != 0) return resultOfErrno(errno);
+  const HiveLock turn(target, before.st_mode & 0666U, std::chrono::steady_clock::now() + kLongestWrite);
+  if (turn.failure() != kSuccess) return turn.failure();
+  if (hiveFaults(target).empty() && before.st_size != 0) return kSuccess;
+  HiveFile file(target, HiveReaders::Owner);
   std::string bytes;
   if (const Long failure = readWhole(file, bytes); failure != kSuccess) return failure;
+  if (isOfLaterVersion(bytes)) return kNotAHive;
   SalvagedRows rows = salvage(bytes);
   if (rows.keys.empty() && rows.values.empty() && !hive::isMarkedAsHive(bytes)) return kNotAHive;
   gatherLost(rows);
-  const Path made = withEnding(path, ".repaired");
+  const Path made = withEnding(target, ".repaired");
   if (const Long failure = writeNew(rows, made, before); failure != kSuccess) return failure;
-  repair = {rows.keys.size(), rows.values.size(), freePath(withEnding(path, ".damaged"))};
-  return exchange(path, made, repair.damaged);
+  repair = {rows.keys.size(), rows.values.size(), freePath(withEnding(target, ".damaged"))};
+  return exchange(target, made, repair.damaged);
 }
 
 }  // namespace tessaly::platform

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tessaly/base/Text.h"
+#include "tessaly/platform/keys/KeyLimits.h"
 #include "tessaly/platform/linux/UpperCase.h"
 
 namespace tessaly::platform {
@@ -29,6 +30,7 @@ enum HiveRows::Sql : std::size_t {
   Commit,
   Rollback,
   KeyExists,
+  FindParent,
   FindSubkey,
   ListSubkeys,
   AnySubkey,
@@ -49,6 +51,7 @@ sqlite::Statement& HiveRows::statement(Sql sql) {
       "COMMIT",
       "ROLLBACK",
       "SELECT 1 FROM key WHERE id=?1",
+      "SELECT parent FROM key WHERE id=?1",
       "SELECT parent, upper, name, id, sum FROM key WHERE parent=?1 AND upper=?2",
       "SELECT parent, upper, name, id, sum FROM key WHERE parent=?1 ORDER BY upper",
       "SELECT 1 FROM key WHERE parent=?1 LIMIT 1",
@@ -72,6 +75,11 @@ int HiveRows::beginReading() {
   return code;
 }
 
+bool HiveRows::hasVersion() {
+  const Use look(statement(Look));
+  return look->step() == SQLITE_ROW && look->number(0) == hive::kVersion;
+}
+
 int HiveRows::beginWriting() { return statement(BeginWriting).finish(); }
 
 Long HiveRows::commit() {
@@ -90,6 +98,18 @@ Long HiveRows::exists(Id key) {
   row->bind(1, key);
   const int code = row->step();
   return code == SQLITE_DONE ? kKeyDeleted : sqlite::resultOf(code);
+}
+
+Long HiveRows::depth(Id key, std::size_t& depth) {
+  for (depth = 0; key != KeyStore::kRoot && depth <= kDeepestPath; ++depth) {
+    const Use row(statement(FindParent));
+    row->bind(1, key);
+    const int code = row->step();
+    if (code == SQLITE_DONE) return depth == 0 ? kKeyDeleted : kCorrupt;
+    if (code != SQLITE_ROW) return sqlite::resultOf(code);
+    key = row->number(0);
+  }
+  return kSuccess;
 }
 
 Long HiveRows::subkey(Id parent, std::u16string_view name, Id& key) {

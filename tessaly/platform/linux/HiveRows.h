@@ -22,9 +22,16 @@ class HiveRows {
 
   /// Begins a transaction and takes its lock. SQLite's extended code.
   int beginReading();
+
+  /// Whether the hive has this program's version of the format; within a transaction.
+  bool hasVersion();
+
   int beginWriting();
   Long commit();
   void rollback();
+
+  /// How many keys a key is in, below the root.
+  Long depth(Id key, std::size_t& depth);
 
   /// `kSuccess` for the root and each key that is there, otherwise `kKeyDeleted`.
   Long exists(Id key);
@@ -52,7 +59,7 @@ class HiveRows {
   Long valueRow(Id key, const std::string& upper, hive::ValueRow& row);
   Long hasSubkeys(Id key, bool& has);
 
-  static constexpr std::size_t kStatements = 16;
+  static constexpr std::size_t kStatements = 17;
 
   sqlite3* database_;
   std::array<sqlite::Statement, kStatements> statements_;

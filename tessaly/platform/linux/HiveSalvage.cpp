@@ -20,7 +20,7 @@ std::string upperOf(std::string_view name) { return toUtf8(upperCased(fromUtf8(n
 bool asKey(const std::vector<PageColumn>& columns, hive::KeyRow& row) {
   if (columns.size() != 5) return false;
   row = {columns[0].number, std::string(columns[1].bytes), std::string(columns[2].bytes), columns[3].number};
-  return sumOf(row) == columns[4].number;
+  return sumOf(row) == columns[4].number && isPossible(row);
 }
 
 bool asValue(const std::vector<PageColumn>& columns, hive::ValueRow& row) {
@@ -88,21 +88,26 @@ class LostKeys {
 
   static std::string freeNameIn(const std::set<std::string>& taken, std::string_view wanted) {
     std::string name(wanted);
-    for (int number = 2; taken.contains(upperOf(name)); ++number) {
-      name = std::string(wanted) + " " + std::to_string(number);
-    }
+    for (int number = 2; taken.contains(upperOf(name)); ++number) name = numbered(wanted, number);
     return name;
   }
 
+  /// Goes on counting where it was before for the same name.
   std::string freeName(std::string_view wanted) {
-    std::string name = freeNameIn(taken_, wanted);
-    taken_.insert(upperOf(name));
+    std::string name(wanted);
+    int& number = counts_[upperOf(wanted)];
+    while (!taken_.insert(upperOf(name)).second) name = numbered(wanted, ++number + 1);
     return name;
+  }
+
+  static std::string numbered(std::string_view name, int number) {
+    return std::string(name).append(" ").append(std::to_string(number));
   }
 
   SalvagedRows* rows_;
   Id home_ = 0;
   std::set<std::string> taken_;
+  std::map<std::string, int> counts_;
 };
 
 }  // namespace

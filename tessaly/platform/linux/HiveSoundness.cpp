@@ -76,6 +76,8 @@ std::vector<std::string> faultsOf(sqlite3* database, std::size_t most) {
   faults.checkRows<hive::ValueRow>("SELECT key, upper, name, type, data, sum FROM value", "value");
   faults.checkOwners("SELECT count(*) FROM key WHERE parent<>1 AND parent NOT IN (SELECT id FROM key)",
                      "keys without the key that they were in");
+  faults.checkOwners("SELECT count(*) - count(DISTINCT id) FROM key NOT INDEXED",
+                     "keys that stand for others too");
   faults.checkOwners("SELECT count(*) FROM value WHERE key<>1 AND key NOT IN (SELECT id FROM key)",
                      "values without their key");
   return faults.take();

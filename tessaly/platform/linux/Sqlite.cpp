@@ -40,6 +40,8 @@ int open(const std::string& path, int flags, Database& database) {
   // The file may be anybody's: nothing that it says of itself is run.
   sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
   sqlite3_db_config(opened, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  constexpr int longestRow = 4 << 20;
+  sqlite3_limit(opened, SQLITE_LIMIT_LENGTH, longestRow);
   sqlite3_extended_result_codes(opened, 1);
   return run(opened, "PRAGMA cell_size_check=ON");
 }

@@ -135,6 +135,23 @@ TEST_F(HiveProcessesTest, WritersAtOnceAllComeToTheirTurn) {
   EXPECT_EQ(values.size(), static_cast<std::size_t>(writers * writes));
 }
 
+TEST_F(HiveProcessesTest, AWriterAmongOthersThatNeverPauseIsNotStarved) {
+  std::vector<std::unique_ptr<Writer>> others;
+  others.reserve(3);
+  for (int i = 0; i < 3; ++i) others.push_back(std::make_unique<Writer>(file(), i, 1));
+  for (auto& other : others) other->hear();
+  const auto hive = open();
+  for (int i = 0; i < 100; ++i) EXPECT_EQ(put(*hive, {u"Mine"}, u"v", numberText(i)), kSuccess) << i;
+  for (auto& other : others) other->kill();
+}
+
+TEST_F(HiveProcessesTest, ASoundHiveShowsNoFaultsWhileOthersWrite) {
+  ASSERT_EQ(put(*open(), {u"a"}, u"v", u"text"), kSuccess);
+  Writer writer(file(), 0, 1);
+  for (int i = 0; i < 200; ++i) ASSERT_EQ(hiveFaults(file()), std::vector<std::string>()) << i;
+  writer.kill();
+}
+
 TEST_F(HiveProcessesTest, ReadersSeeWholeWritesWhileOthersWrite) {
   ASSERT_EQ(put(*open(), {u"Writers", u"0"}, u"last", u"0"), kSuccess);
   Writer writer(file(), 0, 1);

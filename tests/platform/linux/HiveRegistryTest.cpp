@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <thread>
+
 #include "tessaly/platform/Bodies.h"
 #include "tessaly/platform/Core.h"
 #include "tessaly/platform/fake/Locale.h"
@@ -117,6 +120,44 @@ TEST_F(HiveRegistryTest, BothSidesOfAForkGoOnReadingAndWriting) {
   EXPECT_EQ(read(kCurrentUser, "T", "v"), "child");
   EXPECT_EQ(write(kCurrentUser, "T", "v", "parent"), kSuccess);
   EXPECT_EQ(inProcess([] { return read(kCurrentUser, "T", "v") == "parent" ? 0 : 1; }), 0);
+}
+
+TEST_F(HiveRegistryTest, ThreadsReadAndWriteAtOnce) {
+  constexpr int threads = 4;
+  constexpr int rounds = 50;
+  std::atomic<int> faults = 0;
+  std::vector<std::thread> running;
+  running.reserve(threads);
+  for (int i = 0; i < threads; ++i) {
+    running.emplace_back([i, &faults] {
+      const std::string name = "v" + std::to_string(i);
+      for (int round = 0; round < rounds; ++round) {
+        const std::string text = std::to_string(round);
+        if (write(kCurrentUser, "T", name.c_str(), text) != kSuccess) ++faults;
+        if (read(kCurrentUser, "T", name.c_str()) != text) ++faults;
+      }
+    });
+  }
+  for (std::thread& thread : running) thread.join();
+  EXPECT_EQ(faults, 0);
+}
+
+TEST_F(HiveRegistryTest, AWriteIsSeenUnderEverySpellingOfItsName) {
+  ASSERT_EQ(write(kCurrentUser, "T", "Name", "1"), kSuccess);
+  EXPECT_EQ(read(kCurrentUser, "t", "NAME"), "1");
+  ASSERT_EQ(write(kCurrentUser, "T", "Name", "2"), kSuccess);
+  EXPECT_EQ(read(kCurrentUser, "t", "NAME"), "2");
+  ASSERT_EQ(ownRegistry().RegDeleteKeyA(kCurrentUser, "T"), kSuccess);
+  EXPECT_EQ(read(kCurrentUser, "t", "NAME"), "no key");
+}
+
+TEST_F(HiveRegistryTest, AKeyThatAnotherDeletesBetweenTwoWritesIsMadeAgain) {
+  ASSERT_EQ(write(kCurrentUser, "T", "v", "1"), kSuccess);
+  ASSERT_EQ(write(kCurrentUser, "T", "v", "2"), kSuccess);
+  ASSERT_EQ(inProcess([] { return ownRegistry().RegDeleteKeyA(kCurrentUser, "T") == kSuccess ? 0 : 1; }), 0);
+  EXPECT_EQ(read(kCurrentUser, "T", "v"), "no key");
+  EXPECT_EQ(write(kCurrentUser, "T", "v", "3"), kSuccess);
+  EXPECT_EQ(read(kCurrentUser, "T", "v"), "3");
 }
 
 TEST_F(HiveRegistryTest, TextWrittenUnderOneCodePageReadsUnderAnother) {

@@ -88,12 +88,15 @@ int withoutRights(const std::function<int()>& work) {
   });
 }
 
-void makeDatabase(const std::filesystem::path& file, const char* pragma) {
+void runSql(const std::filesystem::path& file, const char* sql) {
   sqlite3* database = nullptr;
   sqlite3_open(file.c_str(), &database);
-  sqlite3_exec(database, pragma, nullptr, nullptr, nullptr);
-  sqlite3_exec(database, "CREATE TABLE key (parent); INSERT INTO key VALUES (1)", nullptr, nullptr, nullptr);
+  EXPECT_EQ(sqlite3_exec(database, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
   sqlite3_close(database);
+}
+
+void makeDatabase(const std::filesystem::path& file, const char* pragma) {
+  runSql(file, (std::string(pragma) + ";CREATE TABLE key (parent); INSERT INTO key VALUES (1)").c_str());
 }
 
 void interruptWrite(const std::filesystem::path& hive) {

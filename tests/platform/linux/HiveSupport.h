@@ -44,6 +44,9 @@ inline int inProcess(const std::function<int()>& work) { return endOf(start(work
 /// their modes allow.
 int withoutRights(const std::function<int()>& work);
 
+/// Runs a statement of SQLite's on a file.
+void runSql(const std::filesystem::path& file, const char* sql);
+
 /// Makes a database of some other program.
 void makeDatabase(const std::filesystem::path& file, const char* pragma);
 

@@ -5,8 +5,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 
+#include "tessaly/platform/keys/KeyLimits.h"
 #include "tests/platform/linux/HiveSupport.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -153,6 +155,57 @@ TEST_F(HiveTest, SeesThatAnOlderContentWasPutBackInPlace) {
   writeBytes(file(), backup);
   EXPECT_NE(hive_->revision(), before);
   EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
+}
+
+TEST_F(HiveTest, SeesAWriteAfterAnOlderContentWithTheSameCountWasPutBack) {
+  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"0"), kSuccess);
+  const std::string backup = bytesOf(file());
+  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"lost"), kSuccess);
+  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"lost");
+  // SQLite's change counter is then the one that this process has seen.
+  writeBytes(file(), backup);
+  ASSERT_EQ(inProcess([&] { return put(*open(), {u"a"}, u"w", u"kept") == kSuccess ? 0 : 1; }), 0);
+  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"0");
+  EXPECT_EQ(get(*hive_, {u"a"}, u"w"), u"kept");
+  ASSERT_EQ(put(*hive_, {u"a"}, u"x", u"new"), kSuccess);
+  EXPECT_EQ(get(*open(), {u"a"}, u"w"), u"kept");
+  EXPECT_TRUE(hiveFaults(file()).empty());
+}
+
+TEST_F(HiveTest, SeesThatTheFolderWasExchanged) {
+  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
+  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
+  const auto before = hive_->revision();
+  const path other = folder().parent_path() / "other";
+  ASSERT_EQ(put(*hiveAt(other / "user.hive", HiveReaders::Owner), {u"a"}, u"v", u"new"), kSuccess);
+  std::filesystem::rename(folder(), folder().parent_path() / "kept");
+  std::filesystem::rename(other, folder());
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (hive_->revision() == before && std::chrono::steady_clock::now() < end) {
+  }
+  EXPECT_NE(hive_->revision(), before);
+  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"new");
+}
+
+TEST_F(HiveTest, KeysGoSoDeepAndNoDeeper) {
+  KeyStore::Id key = KeyStore::kRoot;
+  for (std::size_t depth = 0; depth < kDeepestPath; ++depth) {
+    ASSERT_EQ(hive_->create(key, Keys{u"d"}, key), kSuccess) << depth;
+  }
+  EXPECT_EQ(hive_->create(key, Keys{u"d"}, key), kInvalidParameter);
+}
+
+TEST_F(HiveTest, WhatRootMakesInAUsersFolderIsTheUsers) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can try";
+  constexpr unsigned nobody = 65534;
+  std::filesystem::create_directories(folder());
+  ASSERT_EQ(chown(folder().c_str(), nobody, nobody), 0);
+  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"text"), kSuccess);
+  for (const char* ending : {"", "-lock", "-journal"}) {
+    struct stat status {};
+    ASSERT_EQ(stat((path(file()) += ending).c_str(), &status), 0) << ending;
+    EXPECT_EQ(status.st_uid, nobody) << ending;
+  }
 }
 
 TEST_F(HiveTest, AFileOfNoBytesIsAnEmptyHive) {
