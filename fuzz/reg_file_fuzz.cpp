@@ -6,6 +6,7 @@
 
 #include "tessaly/platform/Core.h"
 #include "tessaly/platform/fake/Locale.h"
+#include "tessaly/platform/keys/KeyLimits.h"
 #include "tessaly/platform/keys/MemoryKeys.h"
 #include "tools/tessaly-reg/RegEncoding.h"
 #include "tools/tessaly-reg/RegExport.h"
@@ -63,6 +64,7 @@ void requireSameValues(KeyStore& left, KeyStore::Id leftKey, KeyStore& right, Ke
   require(leftValues.size() == rightValues.size());
   for (std::size_t i = 0; i < leftValues.size(); ++i) {
     require(leftValues[i].name == rightValues[i].name);
+    require(tessaly::platform::checkValueName(leftValues[i].name) == 0);
     require(withNul(leftValues[i].value) == withNul(rightValues[i].value));
   }
 }
@@ -74,6 +76,7 @@ void requireSame(KeyStore& left, KeyStore::Id leftKey, KeyStore& right, KeyStore
   require(left.subkeys(leftKey, leftNames) == 0 && right.subkeys(rightKey, rightNames) == 0);
   require(leftNames == rightNames);
   for (const std::u16string_view name : leftNames) {
+    require(tessaly::platform::checkPath({&name, 1}) == 0);
     KeyStore::Id leftSubkey = 0;
     KeyStore::Id rightSubkey = 0;
     require(left.find(leftKey, {&name, 1}, leftSubkey) == 0 &&

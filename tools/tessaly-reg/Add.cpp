@@ -33,12 +33,12 @@ Long check(const KeyPlace& place, const Arguments& arguments, const KeyValue& va
 }
 
 Long store(const KeyPlace& place, const Arguments& arguments, const KeyValue& value) {
-  return place.store->transact([&] {
+  return resultOfChange(place.store->transact([&] {
     KeyStore::Id key = 0;
     const Long result = place.store->create(place.from, place.names, key);
     if (result != kSuccess || !arguments.valueName) return result;
     return place.store->setValue(key, *arguments.valueName, value);
-  });
+  }));
 }
 
 /// Asks where there is a value already.

@@ -32,6 +32,9 @@ constexpr std::array kCommands = {
     Syntax{Command::Repair, "repair", false, true, false, " n "},
 };
 
+/// The effort of a search grows with the pattern's length.
+constexpr std::size_t kLongestPattern = 1000;
+
 std::string lowerCased(std::string_view text) {
   std::string result(text);
   for (char& c : result) {
@@ -84,8 +87,12 @@ std::string Parser::parse() {
     const std::string& word = words_[at_++];
     if (!common(word) && !option(word)) plain(word);
   }
-  if (arguments_.wantsHelp || arguments_.wantsVersion) return {};
-  checkWhole();
+  if (arguments_.wantsHelp) return {};
+  if (!arguments_.wantsVersion) {
+    checkWhole();
+  } else if (words_.size() > 1) {
+    fail("--version stands alone");
+  }
   return std::move(fault_);
 }
 
@@ -154,6 +161,8 @@ void Parser::storeText(const std::string& option, const String& text) {
     arguments_.data = text;
   } else if (option == "f") {
     arguments_.pattern = text;
+    if (text.size() > kLongestPattern)
+      fail("the pattern behind /f is over " + std::to_string(kLongestPattern) + " characters long");
   } else {
     arguments_.separator = text;
     if (text.empty()) fail("the separator behind /s is empty");

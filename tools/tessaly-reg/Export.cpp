@@ -15,10 +15,13 @@ using platform::registry_result::kSuccess;
 
 int write(const Arguments& arguments, Context& context, const Exported& exported) {
   const std::string file = visible(*arguments.file);
-  const std::string fault = writeFile(*arguments.file, encodeRegFile(exported.text), arguments.isForced);
+  const std::string bytes = encodeRegFile(exported.text);
+  const std::string fault = writeFile(*arguments.file, bytes, arguments.isForced);
   if (!fault.empty()) return fail(context, "can't write " + file, fault);
   context.out << "Exported " << counted(exported.keys, "key") << " and " << counted(exported.values, "value")
               << " to " << file << ".\n";
+  if (bytes.size() > kLargestRegFile)
+    context.errors << "It is larger than 16 MiB, which import refuses; export the keys in it one by one.\n";
   return kDone;
 }
 

@@ -18,7 +18,8 @@ std::string hint(const Context& context, Long result, const platform::KeyStore* 
   if (result == kAccessDenied && isMachines)
     return "The machine's settings, " + file + ", are an administrator's to change: try sudo.";
   if (result == kAccessDenied) return "The file is " + file + "; it or its folder is not yours to use.";
-  if (result == kDiskFull || result == kIoFailed || result == kBusy) return "The file is " + file + ".";
+  if (result == kBusy) return "The file is " + file + "; try again when they have written.";
+  if (result == kDiskFull || result == kIoFailed) return "The file is " + file + ".";
   return {};
 }
 
@@ -33,7 +34,7 @@ std::string words(Long result) {
     case kAccessDenied:
       return "permission denied";
     case kInvalidParameter:
-      return "a name is too long, or there are too many of them";
+      return "a name is too long or holds half a character, or there are too many of them";
     case kNoResources:
       return "the data is larger than 1 MiB";
     case kDiskFull:
@@ -80,6 +81,8 @@ std::string shownKey(const KeyName& key) {
   const String name(longName(key.root));
   return visible(key.path.empty() ? name : name + u'\\' + key.path);
 }
+
+Long resultOfChange(Long result) { return result == kNotFound ? kIoFailed : result; }
 
 int confirm(Context& context, bool isForced, const std::string& question, const std::string& what) {
   if (isForced) return kDone;

@@ -10,6 +10,9 @@ namespace tessaly::reg {
 /// A number of `registry_result` in words.
 std::string words(Long result);
 
+/// The result of a change that makes the keys it needs: what it did not find is the folder of the file.
+Long resultOfChange(Long result);
+
 /// Says what was tried and why it failed, with a hint where there is one, and gives `kFailed`. The store is
 /// the one that gave the result, or nothing.
 int fail(Context& context, const std::string& what, Long result, const platform::KeyStore* store);

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <optional>
 #include <system_error>
@@ -45,7 +46,7 @@ std::string readAll(int file, std::string& bytes) {
     if (count == 0) return {};
     if (count < 0 && errno != EINTR) return lastError();
   }
-  return "it is larger than 64 MiB";
+  return "it is larger than 16 MiB";
 }
 
 std::string writeAll(int file, std::string_view bytes) {
@@ -124,6 +125,7 @@ std::string writeFile(const std::filesystem::path& path, std::string_view bytes,
   std::error_code error;
   const std::filesystem::path target = std::filesystem::weakly_canonical(path, error);
   if (error) return error.message();
+  if (std::filesystem::is_symlink(target, error)) return "it is a link to a file that is not there";
   struct stat status = {};
   const bool exists = stat(target.c_str(), &status) == 0;
   if (exists && !S_ISREG(status.st_mode)) return "it is no normal file; - writes to the standard output";

@@ -7,7 +7,7 @@
 namespace tessaly::reg {
 
 /// Larger .reg files are refused.
-inline constexpr std::size_t kLargestRegFile = std::size_t{64} << 20U;
+inline constexpr std::size_t kLargestRegFile = std::size_t{16} << 20U;
 
 /// Reads a file, "-" being the standard input. Gives what failed, or an empty text.
 std::string readFile(const std::filesystem::path& path, std::string& bytes);

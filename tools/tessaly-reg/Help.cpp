@@ -15,7 +15,8 @@ constexpr std::string_view kTool = R"(tessaly-reg shows and changes the settings
 A KEY begins with HKEY_CURRENT_USER (HKCU), HKEY_LOCAL_MACHINE (HKLM),
 HKEY_CLASSES_ROOT (HKCR), HKEY_USERS (HKU) or HKEY_CURRENT_CONFIG (HKCC). Put it
 in quotes, or the shell takes the backslashes: 'HKCU\Software\My Tool'.
-Commands, options and names may be in any case; options may begin with - too.
+Commands, options and names may be in any case; options may begin with - too. A
+FILE that looks like an option is written with its folder: ./-x.reg.
 
   --user FILE      work on this file in place of the user's own
   --machine FILE   work on this file in place of the machine's
@@ -38,7 +39,8 @@ Shows the values of a key and the names of its subkeys.
   /ve          the unnamed value alone, which is shown as (Default)
   /s           all keys below too
   /f PATTERN   what has this text in a key's name, a value's name or its data,
-               in any case; * stands for any characters and ? for one
+               in any case; * stands for any characters and ? for one; up to
+               1000 characters
   /t TYPE      values of this type alone, such as REG_SZ or REG_DWORD
 
 The exit code is 1 where nothing is found.
@@ -82,7 +84,7 @@ constexpr std::string_view kImport = R"(tessaly-reg import FILE [/n]
 
 Brings a .reg file into the settings, all of it or, where anything in it is
 wrong, nothing. Takes both forms, version 4 and 5.00, as Windows writes them or
-in UTF-8. With - as FILE it reads the standard input.
+in UTF-8, of up to 16 MiB. With - as FILE it reads the standard input.
 
   /n   says what would be done, and changes nothing
 )";

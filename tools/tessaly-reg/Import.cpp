@@ -26,8 +26,9 @@ class Import {
  private:
   int tell(std::vector<LineError> faults);
   int checkWritable(const RegImport& import);
+  int checkReadable(const RegImport& import);
   int failed(const ImportResult& end);
-  void preview();
+  int preview(const RegImport& import);
   void previewChange(const RegChange& change);
   std::size_t count(Kind kind) const;
   void summarise(std::string_view beginning);
@@ -56,6 +57,17 @@ int Import::checkWritable(const RegImport& import) {
     const platform::KeyStore* const store = named->store.get();
     if (import.concerns(*store) && !named->store->isWritable())
       return fail(context_, "can't import " + name_, kAccessDenied, store);
+  }
+  return kDone;
+}
+
+/// An import would find out by itself.
+int Import::checkReadable(const RegImport& import) {
+  for (const NamedStore* named : {&context_.stores.machine, &context_.stores.user}) {
+    if (!import.concerns(*named->store)) continue;
+    std::vector<String> ignored;
+    const Long result = named->store->subkeys(platform::KeyStore::kRoot, ignored);
+    if (result != kSuccess) return fail(context_, "can't import " + name_, result, named->store.get());
   }
   return kDone;
 }
@@ -98,15 +110,17 @@ void Import::summarise(std::string_view beginning) {
 }
 
 int Import::failed(const ImportResult& end) {
-  fail(context_, "can't import " + name_, end.result, end.failed);
+  fail(context_, "can't import " + name_, resultOfChange(end.result), end.failed);
   context_.errors << (end.isUserDone ? "The user's keys are imported, the machine's are as before.\n"
                                      : "Nothing was changed.\n");
   return kFailed;
 }
 
-void Import::preview() {
+int Import::preview(const RegImport& import) {
   for (const RegChange& change : file_.changes) previewChange(change);
   summarise("Nothing was changed. An import would give: ");
+  const int code = checkReadable(import);
+  return code == kDone ? checkWritable(import) : code;
 }
 
 int Import::run() {
@@ -118,8 +132,8 @@ int Import::run() {
   std::vector<LineError> faults = import.faults();
   faults.insert(faults.end(), file_.errors.begin(), file_.errors.end());
   if (!faults.empty()) return tell(std::move(faults));
-  if (arguments_.isPreview) preview();
-  if (const int code = checkWritable(import); code != kDone || arguments_.isPreview) return code;
+  if (arguments_.isPreview) return preview(import);
+  if (const int code = checkWritable(import); code != kDone) return code;
   const ImportResult end = import.apply(*context_.stores.machine.store, *context_.stores.user.store);
   if (end.result != kSuccess) return failed(end);
   summarise("Imported " + name_ + ": ");

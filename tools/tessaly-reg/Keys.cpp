@@ -1,8 +1,10 @@
 #include "tools/tessaly-reg/Keys.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "tessaly/platform/Core.h"
+#include "tessaly/platform/keys/KeyLimits.h"
 #include "tessaly/platform/keys/PathNames.h"
 
 namespace tessaly::reg {
@@ -36,6 +38,90 @@ String fullName(const KeyPlace& place, std::size_t own, String outer) {
     place.store->find(id, {&name, 1}, id);
   }
   return outer;
+}
+
+/// The way down a tree. A sound one has a single way to each key and is of a bounded depth; a file that was
+/// made by hand may have rings.
+class Descent {
+ public:
+  Long enter(KeyStore::Id key) {
+    if (depth_ == kDeepest || !entered_.insert(key).second) return kCorrupt;
+    ++depth_;
+    return kSuccess;
+  }
+
+  void leave() { --depth_; }
+
+ private:
+  /// The root itself comes on top of the names.
+  static constexpr std::size_t kDeepest = platform::kDeepestPath + 1;
+
+  std::unordered_set<KeyStore::Id> entered_;
+  std::size_t depth_ = 0;
+};
+
+/// Goes down with one name, which grows and shrinks: deep down, copies of it would be large.
+class Walk {
+ public:
+  Walk(const Keys& keys, FoundKey from, const std::function<Long(const FoundKey&)>& visit)
+      : keys_(keys), visit_(visit), here_(std::move(from)) {}
+
+  /// Visits the key here and all below it.
+  Long go();
+
+ private:
+  Long visitAll();
+  Long below(const String& name);
+
+  const Keys& keys_;
+  const std::function<Long(const FoundKey&)>& visit_;
+  FoundKey here_;
+  Descent descent_;
+};
+
+Long Walk::go() {
+  if (here_.store == nullptr) return visitAll();
+  if (const Long result = descent_.enter(here_.id); result != kSuccess) return result;
+  const Long result = visitAll();
+  descent_.leave();
+  return result;
+}
+
+Long Walk::visitAll() {
+  if (const Long result = visit_(here_); result != kSuccess) return isGone(result) ? kSuccess : result;
+  std::vector<String> names;
+  Long result = keys_.subkeys(here_, names);
+  for (auto name = names.begin(); result == kSuccess && name != names.end(); ++name) {
+    result = below(*name);
+    if (isGone(result)) result = kSuccess;
+  }
+  return isGone(result) ? kSuccess : result;
+}
+
+Long Walk::below(const String& name) {
+  const std::size_t length = here_.name.size();
+  KeyStore* const store = here_.store;
+  const KeyStore::Id id = here_.id;
+  Long result = keys_.enter(here_, name);
+  if (result == kSuccess) result = go();
+  here_.store = store;
+  here_.id = id;
+  here_.name.resize(length);
+  return result;
+}
+
+Long deleteTree(KeyStore& store, KeyStore::Id outer, Descent& descent) {
+  if (const Long result = descent.enter(outer); result != kSuccess) return result;
+  std::vector<String> names;
+  if (const Long result = store.subkeys(outer, names); result != kSuccess) return result;
+  for (const std::u16string_view name : names) {
+    KeyStore::Id inner = 0;
+    Long result = store.find(outer, {&name, 1}, inner);
+    if (result == kSuccess) result = deleteTree(store, inner, descent);
+    if (result != kSuccess) return result;
+  }
+  descent.leave();
+  return store.remove(outer, {});
 }
 
 }  // namespace
@@ -75,35 +161,24 @@ Long Keys::values(const FoundKey& key, std::vector<platform::NamedValue>& values
   return key.store != nullptr ? key.store->values(key.id, values) : kSuccess;
 }
 
-Long Keys::below(const FoundKey& key, std::u16string_view name, FoundKey& found) const {
-  if (key.store == nullptr) return find({key.root, String(name)}, found);
-  found = {key.store, 0, key.root, key.name + u'\\' + String(name)};
-  return key.store->find(key.id, {&name, 1}, found.id);
+Long Keys::enter(FoundKey& key, std::u16string_view name) const {
+  key.name += u'\\';
+  key.name += name;
+  if (key.store != nullptr) return key.store->find(key.id, {&name, 1}, key.id);
+  FoundKey found;
+  const Long result = find({key.root, String(name)}, found);
+  key.store = found.store;
+  key.id = found.id;
+  return result;
 }
 
 Long Keys::walk(const FoundKey& key, const std::function<Long(const FoundKey&)>& visit) const {
-  if (const Long result = visit(key); result != kSuccess) return isGone(result) ? kSuccess : result;
-  std::vector<String> names;
-  if (const Long result = subkeys(key, names); result != kSuccess) return isGone(result) ? kSuccess : result;
-  for (const String& name : names) {
-    FoundKey subkey;
-    Long result = below(key, name, subkey);
-    if (result == kSuccess) result = walk(subkey, visit);
-    if (result != kSuccess && !isGone(result)) return result;
-  }
-  return kSuccess;
+  return Walk(*this, key, visit).go();
 }
 
 Long deleteTree(KeyStore& store, KeyStore::Id outer) {
-  std::vector<String> names;
-  if (const Long result = store.subkeys(outer, names); result != kSuccess) return result;
-  for (const std::u16string_view name : names) {
-    KeyStore::Id inner = 0;
-    Long result = store.find(outer, {&name, 1}, inner);
-    if (result == kSuccess) result = deleteTree(store, inner);
-    if (result != kSuccess) return result;
-  }
-  return store.remove(outer, {});
+  Descent descent;
+  return deleteTree(store, outer, descent);
 }
 
 }  // namespace tessaly::reg

@@ -32,11 +32,11 @@ class Keys {
   Long subkeys(const FoundKey& key, std::vector<String>& names) const;
   static Long values(const FoundKey& key, std::vector<platform::NamedValue>& values);
 
-  /// A direct subkey, by its stored name.
-  Long below(const FoundKey& key, std::u16string_view name, FoundKey& found) const;
+  /// Goes to a direct subkey, by its stored name. Where it fails the key is of no more use.
+  Long enter(FoundKey& key, std::u16string_view name) const;
 
   /// Visits a key and all below it, outer ones first. What others delete meanwhile is left out. Ends at the
-  /// first visit that fails.
+  /// first visit that fails, and with `kCorrupt` where what is stored is no tree.
   Long walk(const FoundKey& key, const std::function<Long(const FoundKey&)>& visit) const;
 
   /// The name under which HKEY_USERS shows the user's keys.
@@ -46,7 +46,7 @@ class Keys {
   platform::PredefinedKeys roots_;
 };
 
-/// Deletes a key with all below it. For use within a transaction.
+/// Deletes a key with all below it; `kCorrupt` where what is stored is no tree. For use within a transaction.
 Long deleteTree(platform::KeyStore& store, platform::KeyStore::Id outer);
 
 }  // namespace tessaly::reg

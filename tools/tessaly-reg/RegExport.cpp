@@ -1,8 +1,5 @@
 #include "tools/tessaly-reg/RegExport.h"
 
-#include <algorithm>
-
-#include "tools/tessaly-reg/ValueText.h"
 #include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
@@ -33,8 +30,7 @@ class Export {
 };
 
 bool Export::mayWrite(std::u16string_view name) const {
-  if (names_ == ExportNames::All) return true;
-  return !needsBytes(name) && std::none_of(name.begin(), name.end(), isOrder);
+  return names_ == ExportNames::All || isShowable(name);
 }
 
 Long Export::stopAt(const FoundKey& key, std::u16string_view name) {

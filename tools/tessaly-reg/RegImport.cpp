@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tessaly/platform/keys/KeyLimits.h"
+#include "tools/tessaly-reg/Utf8.h"
 #include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
@@ -50,6 +51,7 @@ std::string RegImport::faultOf(const RegChange& change) const {
   if (isOfKey(change)) return faultOfKey(change);
   const bool isNowhere = places_[change.key].store == nullptr && file_.keys[change.key].path.empty();
   if (isNowhere) return "HKEY_USERS itself holds no values";
+  if (!hasWholePairs(change.name)) return "the name of the value holds half a character";
   if (platform::checkValueName(change.name) != kSuccess)
     return "the name of the value is over 16383 characters long";
   if (platform::checkValue(change.value) != kSuccess) return "the data is larger than 1 MiB";
@@ -64,6 +66,8 @@ std::string RegImport::faultOfKey(const RegChange& change) const {
            inQuotes(keys_.userName());
   }
   if (change.kind == Kind::DeleteKey && place.names.empty()) return "this key itself can't be deleted";
+  if (!std::all_of(place.names.begin(), place.names.end(), hasWholePairs))
+    return "a name of the key holds half a character";
   if (platform::checkPath(place.names) == kSuccess) return {};
   const bool isDeep = place.names.size() > platform::kDeepestPath;
   return isDeep ? "the key lies below more than 512 others" : "a name of the key is over 255 characters long";

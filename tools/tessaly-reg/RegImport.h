@@ -19,7 +19,7 @@ class RegImport {
  public:
   RegImport(const RegFile& file, const Keys& keys);
 
-  /// What can't be done of it, by lines: names too long, data too large, keys that can't be made.
+  /// What can't be done of it, by lines: names too long or broken, data too large, keys that can't be made.
   std::vector<LineError> faults() const;
 
   /// Whether there is something for a store.

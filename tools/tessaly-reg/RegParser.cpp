@@ -121,7 +121,7 @@ bool RegParser::valueName(String& name) {
   if (!in_.take(u'@')) {
     in_.take(u'"');
     const auto quote = in_.takeQuoted(name);
-    if (quote == RegScanner::Quote::BadEscape)
+    if (quote == RegScanner::Quote::BadEscape && in_.line() == begin.line)
       return fail(R"(a backslash in a name is written \\ and a quotation mark \")");
     // Most likely the name was to end in its own line.
     if (in_.line() != begin.line) in_.skipBlanks();
@@ -158,7 +158,7 @@ bool RegParser::text(RegChange& change) {
   in_.take(u'"');
   change.value.type = platform::kText;
   const auto quote = in_.takeQuoted(change.value.text);
-  if (quote == RegScanner::Quote::BadEscape)
+  if (quote == RegScanner::Quote::BadEscape && in_.line() == begin.line)
     return fail(R"(a backslash in a text is written \\ and a quotation mark \")");
   change.value.text += u'\0';
   in_.skipBlanks();

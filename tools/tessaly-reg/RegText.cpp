@@ -1,9 +1,8 @@
 #include "tools/tessaly-reg/RegText.h"
 
-#include <algorithm>
-
-#include "tessaly/base/Unicode.h"
+#include "tools/tessaly-reg/Hex.h"
 #include "tools/tessaly-reg/RegEncoding.h"
+#include "tools/tessaly-reg/ValueText.h"
 #include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
@@ -15,28 +14,15 @@ using platform::KeyValue;
 constexpr std::size_t kWidestLine = 77;
 constexpr std::size_t kWidthOfByte = 3;
 
-String hexDigits(std::uint32_t number, int least) {
-  constexpr std::u16string_view digits = u"0123456789abcdef";
-  String result;
-  for (; number != 0 || least > 0; number >>= 4U, --least) result += digits[number & 0xFU];
-  std::reverse(result.begin(), result.end());
-  return result;
-}
-
 String hexPrefix(platform::RegistryType type) {
-  return type == platform::kBinary ? String(u"hex:") : u"hex(" + hexDigits(type, 1) + u"):";
+  return type == platform::kBinary ? String(u"hex:")
+                                   : u"hex(" + hexDigits(type, 1, HexLetters::Small) + u"):";
 }
 
 std::uint32_t numberOf(std::string_view bytes) {
   std::uint32_t number = 0;
   for (std::size_t i = bytes.size(); i-- > 0;) number = (number << 8U) | static_cast<unsigned char>(bytes[i]);
   return number;
-}
-
-/// A text without the NUL at its end.
-std::u16string_view withoutNul(std::u16string_view text) {
-  if (text.ends_with(u'\0')) text.remove_suffix(1);
-  return text;
 }
 
 bool holdsAny(std::u16string_view text, std::u16string_view units) {
@@ -49,12 +35,11 @@ constexpr std::u16string_view kNotInKeys(u"\0\r\n", 3);
 }  // namespace
 
 bool needsBytes(std::u16string_view text) {
-  while (!text.empty()) {
-    const auto front = unicode::frontOf(text);
-    if (!front || (isOrder(text[0]) && text[0] != u'\t')) return true;
-    text.remove_prefix(front->units);
+  for (std::size_t tab = text.find(u'\t'); tab != std::u16string_view::npos; tab = text.find(u'\t')) {
+    if (!isShowable(text.substr(0, tab))) return true;
+    text.remove_prefix(tab + 1);
   }
-  return false;
+  return !isShowable(text);
 }
 
 RegText::RegText(std::u16string_view lineEnd) : lineEnd_(lineEnd) {
@@ -95,7 +80,7 @@ void RegText::data(const KeyValue& value) {
   if (value.type == platform::kText && !needsBytes(withoutNul(value.text))) {
     plain(withoutNul(value.text));
   } else if (value.type == platform::kNumber && value.bytes.size() == sizeof(std::uint32_t)) {
-    text_ += u"dword:" + hexDigits(numberOf(value.bytes), 8);
+    text_ += u"dword:" + hexDigits(numberOf(value.bytes), 8, HexLetters::Small);
   } else {
     hex(hexPrefix(value.type), value.isText() ? bytesOf(value.text) : value.bytes);
   }
@@ -120,7 +105,7 @@ void RegText::hex(std::u16string_view prefix, std::string_view bytes) {
       lineBegin_ = text_.size();
       text_ += u"  ";
     }
-    text_ += hexDigits(static_cast<unsigned char>(bytes[i]), 2);
+    text_ += hexDigits(static_cast<unsigned char>(bytes[i]), 2, HexLetters::Small);
   }
 }
 

@@ -32,8 +32,8 @@ class RegText {
   std::size_t lineBegin_ = 0;
 };
 
-/// Whether a text can't be shown as text, or might not come back as it is from a file that went through many
-/// hands, as line breaks: then it is written as bytes.
+/// Whether a text can't be shown as text, as invisible characters, or might not come back as it is from a
+/// file that went through many hands, as line breaks: then it is written as bytes.
 bool needsBytes(std::u16string_view text);
 
 }  // namespace tessaly::reg

@@ -1,5 +1,7 @@
 #include "tools/tessaly-reg/Run.h"
 
+#include <system_error>
+
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Help.h"
 
@@ -23,12 +25,14 @@ int runCommand(const Arguments& arguments, Context& context) {
   }
 }
 
-/// A reader that has gone, or a full disk.
-int checkOutput(std::ostream& out, std::ostream& errors, int code) {
-  out.flush();
-  if (out) return code;
-  errors << "tessaly-reg: can't write the output\n";
-  return kFailed;
+/// Whether two paths lead to one file, or would if it were made.
+bool areSame(const std::filesystem::path& left, const std::filesystem::path& right) {
+  std::error_code leftError;
+  std::error_code rightError;
+  if (std::filesystem::equivalent(left, right, leftError)) return true;
+  return std::filesystem::weakly_canonical(std::filesystem::absolute(left), leftError) ==
+             std::filesystem::weakly_canonical(std::filesystem::absolute(right), rightError) &&
+         !leftError && !rightError;
 }
 
 int complain(const Arguments& arguments, const std::string& fault, std::ostream& errors) {
@@ -47,15 +51,17 @@ int run(const std::vector<std::string>& words, const Surroundings& around) {
   if (!fault.empty()) return complain(arguments, fault, around.errors);
   if (arguments.wantsHelp) {
     around.out << helpOf(arguments.command);
-    return checkOutput(around.out, around.errors, kDone);
+    return kDone;
   }
   if (arguments.wantsVersion) {
     around.out << "tessaly-reg " << TESSALY_VERSION << '\n';
-    return checkOutput(around.out, around.errors, kDone);
+    return kDone;
   }
   const Stores stores = around.openStores(arguments);
+  if (areSame(stores.machine.file, stores.user.file))
+    return complain(arguments, "the user's file and the machine's are one", around.errors);
   Context context(around, stores);
-  return checkOutput(around.out, around.errors, runCommand(arguments, context));
+  return runCommand(arguments, context);
 }
 
 }  // namespace tessaly::reg

@@ -15,6 +15,15 @@ std::optional<String> strictUtf8(std::string_view bytes) {
   return text;
 }
 
+bool hasWholePairs(std::u16string_view text) {
+  while (!text.empty()) {
+    const auto front = unicode::frontOf(text);
+    if (!front) return false;
+    text.remove_prefix(front->units);
+  }
+  return true;
+}
+
 std::size_t firstFaultOf(std::string_view bytes) {
   std::size_t at = 0;
   while (at < bytes.size()) {

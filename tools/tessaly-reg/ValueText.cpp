@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "tessaly/base/Text.h"
+#include "tools/tessaly-reg/Hex.h"
 #include "tools/tessaly-reg/KeyName.h"
 
 namespace tessaly::reg {
@@ -34,33 +35,18 @@ constexpr std::array kTypeNames = {TypeName{platform::kNoType, u"REG_NONE"},
                                    TypeName{kLongNumber, u"REG_QWORD"},
                                    TypeName{kLongNumber, u"REG_QWORD_LITTLE_ENDIAN"}};
 
-String digitsOf(std::uint64_t number, int base) {
-  std::array<char, 20> digits{};
-  auto* const end = std::to_chars(digits.begin(), digits.end(), number, base).ptr;
-  return {digits.begin(), end};
-}
-
 String shownNumber(std::string_view bytes, bool isLowFirst) {
   std::uint64_t number = 0;
   for (std::size_t i = 0; i < bytes.size(); ++i)
     number = (number << 8U) | static_cast<unsigned char>(bytes[isLowFirst ? bytes.size() - 1 - i : i]);
-  return u"0x" + digitsOf(number, 16);
+  return u"0x" + hexDigits(number, 1, HexLetters::Small);
 }
 
 String shownBytes(std::string_view bytes) {
-  constexpr std::u16string_view digits = u"0123456789ABCDEF";
   String result;
   result.reserve(bytes.size() * 2);
-  for (const char byte : bytes) {
-    result += digits[static_cast<unsigned char>(byte) >> 4U];
-    result += digits[static_cast<unsigned char>(byte) & 0xFU];
-  }
+  for (const char byte : bytes) result += hexDigits(static_cast<unsigned char>(byte), 2, HexLetters::Capital);
   return result;
-}
-
-std::u16string_view withoutNul(std::u16string_view text) {
-  if (text.ends_with(u'\0')) text.remove_suffix(1);
-  return text;
 }
 
 /// The list's own end, and the last text's, go.
@@ -126,7 +112,7 @@ bool textsValue(std::u16string_view data, std::u16string_view separator, KeyValu
 String typeName(RegistryType type) {
   const auto* const found = std::find_if(kTypeNames.begin(), kTypeNames.end(),
                                          [&](const TypeName& known) { return known.type == type; });
-  return found != kTypeNames.end() ? String(found->name) : u"0x" + digitsOf(type, 16);
+  return found != kTypeNames.end() ? String(found->name) : u"0x" + hexDigits(type, 1, HexLetters::Small);
 }
 
 std::optional<RegistryType> typeNamed(std::u16string_view text) {
@@ -139,6 +125,11 @@ std::optional<RegistryType> typeNamed(std::u16string_view text) {
 }
 
 String shownName(std::u16string_view name) { return name.empty() ? u"(Default)" : String(name); }
+
+std::u16string_view withoutNul(std::u16string_view text) {
+  if (text.ends_with(u'\0')) text.remove_suffix(1);
+  return text;
+}
 
 String shownData(const KeyValue& value) {
   if (value.type == platform::kTexts) return shownTexts(value.text);

@@ -20,6 +20,9 @@ std::optional<platform::RegistryType> typeNamed(std::u16string_view text);
 /// A value's name, or "(Default)" for the unnamed one.
 String shownName(std::u16string_view name);
 
+/// A text without the NUL that ends it, if one does.
+std::u16string_view withoutNul(std::u16string_view text);
+
 /// A value's data in one line: texts as they are, several texts with \0 between them, numbers as 0x…, all
 /// else as hexadecimal digits.
 String shownData(const platform::KeyValue& value);

@@ -1,36 +1,37 @@
 #include "tools/tessaly-reg/Visible.h"
 
 #include <algorithm>
+#include <array>
 
 #include "tessaly/base/Text.h"
 #include "tessaly/base/Unicode.h"
+#include "tools/tessaly-reg/Hex.h"
 
 namespace tessaly::reg {
 namespace {
 
 constexpr std::size_t kLongestQuote = 80;
 
-bool isBetween(char16_t unit, char16_t first, char16_t last) { return unit >= first && unit <= last; }
+struct Range {
+  char32_t first;
+  char32_t last;
+};
 
-std::string escaped(char16_t unit) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  std::string result = "\\u";
-  for (int shift = 12; shift >= 0; shift -= 4) result += digits[(unit >> shift) & 0xFU];
-  return result;
-}
+// Soft hyphen, letter mark, fillers, vowel separator, joiners and marks, line and paragraph separators,
+// directions, invisible signs, byte-order mark, annotations, tags.
+constexpr std::array kHidden = {Range{0x00AD, 0x00AD}, Range{0x061C, 0x061C}, Range{0x115F, 0x1160},
+                                Range{0x180E, 0x180E}, Range{0x200B, 0x200F}, Range{0x2028, 0x202E},
+                                Range{0x2060, 0x206F}, Range{0x3164, 0x3164}, Range{0xFEFF, 0xFEFF},
+                                Range{0xFFA0, 0xFFA0}, Range{0xFFF9, 0xFFFB}, Range{0xE0000, 0xE007F}};
 
-/// What breaks lines, turns the direction of writing or has no width at all.
-bool isHidden(char16_t unit) {
-  return isBetween(unit, 0x2028, 0x2029) || unit == 0x061C || isBetween(unit, 0x200E, 0x200F) ||
-         isBetween(unit, 0x202A, 0x202E) || isBetween(unit, 0x2066, 0x2069) || unit == 0xFEFF;
-}
+std::string escaped(char16_t unit) { return "\\u" + toUtf8(hexDigits(unit, 4, HexLetters::Capital)); }
 
 /// How much of a text stands before what is not to be sent to a terminal.
 std::size_t lengthOfShown(std::u16string_view text) {
   std::size_t length = 0;
   while (length < text.size()) {
     const auto front = unicode::frontOf(text.substr(length));
-    if (!front || isOrder(text[length]) || isHidden(text[length])) break;
+    if (!front || isOrder(text[length]) || isHidden(front->value)) break;
     length += front->units;
   }
   return length;
@@ -38,7 +39,14 @@ std::size_t lengthOfShown(std::u16string_view text) {
 
 }  // namespace
 
-bool isOrder(char16_t unit) { return unit < 0x20 || isBetween(unit, 0x7F, 0x9F); }
+bool isOrder(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F); }
+
+bool isHidden(char32_t c) {
+  return std::any_of(kHidden.begin(), kHidden.end(),
+                     [c](const Range& range) { return c >= range.first && c <= range.last; });
+}
+
+bool isShowable(std::u16string_view text) { return lengthOfShown(text) == text.size(); }
 
 std::string visible(std::u16string_view text) {
   std::string result;

@@ -12,6 +12,13 @@ namespace tessaly::reg {
 /// Whether a terminal may take a UTF-16 unit as an order.
 bool isOrder(char16_t unit);
 
+/// Whether a character has no width, or turns the direction of writing or breaks the line where one does not
+/// see it.
+bool isHidden(char32_t c);
+
+/// Whether a text reads as what it is: without orders, hidden characters and half surrogate pairs.
+bool isShowable(std::u16string_view text);
+
 /// Wide text in UTF-8, with what is no character of a line made visible; so is half a surrogate pair.
 std::string visible(std::u16string_view text);
 

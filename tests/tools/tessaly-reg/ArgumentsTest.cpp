@@ -49,6 +49,9 @@ TEST(RegArguments, AreRefusedWithTheReason) {
       {{"--user"}, "a word is missing behind --user"},
       {{"--user", "a", "--user=b", "query", "HKCU"}, "--user is given twice"},
       {{"--machine=", "query", "HKCU"}, "the name of the file behind --machine is empty"},
+      {{"--version", "query"}, "--version stands alone"},
+      {{"--version", "foo"}, "there is no command \"foo\""},
+      {{"query", "HKCU", "/f", std::string(1001, 'x')}, "the pattern behind /f is over 1000 characters long"},
       {{"\x1b[2J"}, "there is no command \"\\u001B[2J\""},
   };
   for (const Row& row : rows) {
@@ -136,6 +139,23 @@ TEST(RegHelp, FitsATerminal) {
       begin = end + 1;
     }
   }
+}
+
+TEST(RegArguments, MeanTwoFiles) {
+  Tool tool;
+  const std::string file = (tool.folder.path() / "x.hive").string();
+  for (const std::string& other : {file, (tool.folder.path() / "." / "x.hive").string()}) {
+    tool.machineFile = file;
+    tool.userFile = other;
+    EXPECT_EQ(tool.run({"query", "HKCU"}), 2) << other;
+    EXPECT_TRUE(tool.errors.starts_with("tessaly-reg: the user's file and the machine's are one\n"));
+  }
+  tool.folder.write(u"x.hive", "");
+  tool.userFile = tool.folder.path() / "link.hive";
+  std::filesystem::create_hard_link(file, tool.userFile);
+  EXPECT_EQ(tool.run({"query", "HKCU"}), 2);
+  std::filesystem::remove(tool.userFile);
+  EXPECT_EQ(tool.run({"query", "HKCU"}), 0);
 }
 
 TEST(RegHelp, TellsTheVersion) {

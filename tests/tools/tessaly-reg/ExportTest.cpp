@@ -74,6 +74,15 @@ TEST_F(RegExportTest, KeepsTheModeAndTheLinkOfWhatItReplaces) {
   EXPECT_EQ(files::status(target).permissions(), files::perms::owner_read | files::perms::owner_write);
 }
 
+TEST_F(RegExportTest, LeavesALinkToNothingAlone) {
+  const files::path link = tool.folder.path() / "link.reg";
+  files::create_symlink("none.reg", link);
+  EXPECT_EQ(exportTo(link, {"/y"}), 1);
+  EXPECT_EQ(tool.errors,
+            "tessaly-reg: can't write " + link.string() + ": it is a link to a file that is not there\n");
+  EXPECT_TRUE(files::is_symlink(link));
+}
+
 TEST_F(RegExportTest, ReplacesNoDeviceAndNoFolder) {
   EXPECT_EQ(exportTo("/dev/null", {"/y"}), 1);
   EXPECT_EQ(tool.errors,
@@ -106,6 +115,27 @@ TEST_F(RegExportTest, SendsNoOrderToTheTerminal) {
             "tessaly-reg: can't export HKEY_CURRENT_USER\\A: the name \"n\\u001B\" can't be shown as text; "
             "export to a file\n");
   EXPECT_EQ(exportTo(target), 0);
+}
+
+// Direction marks and the like went to the terminal as they are.
+TEST_F(RegExportTest, SendsNothingHiddenToTheTerminal) {
+  tool.run({"add", "HKCU\\A", "/v", "t", "/d", toUtf8(u"\x202E")});
+  EXPECT_EQ(exportTo("-"), 0);
+  EXPECT_NE(tool.out.find("\"t\"=hex(1):2e,20,00,00\n"), std::string::npos) << tool.out;
+  tool.run({"add", "HKCU\\A\\k\xE2\x80\x8B"});
+  EXPECT_EQ(exportTo("-"), 1);
+  EXPECT_EQ(tool.out, "");
+  EXPECT_NE(tool.errors.find("k\\u200B"), std::string::npos) << tool.errors;
+  EXPECT_EQ(exportTo(target), 0);
+}
+
+TEST_F(RegExportTest, TellsOfAFileThatImportWouldRefuse) {
+  const platform::KeyValue large = {platform::kBinary, {}, std::string(1 << 20, 'x')};
+  for (const char16_t name : std::u16string_view(u"abc"))
+    ASSERT_EQ(tool.user->setValue(platform::KeyStore::kRoot, {&name, 1}, large), 0);
+  EXPECT_EQ(tool.run({"export", "HKCU", target.string()}), 0);
+  EXPECT_EQ(tool.errors,
+            "It is larger than 16 MiB, which import refuses; export the keys in it one by one.\n");
 }
 
 TEST_F(RegExportTest, SaysWhichNameNoRegFileCanHold) {

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "tessaly/base/Text.h"
+#include "tessaly/platform/keys/HiveFile.h"
 #include "tests/tools/tessaly-reg/Tool.h"
+#include "tools/tessaly-reg/RegEncoding.h"
 
 namespace tessaly::tests {
 namespace {
@@ -137,7 +140,47 @@ TEST(RegImport, SaysWhyAFileCantBeRead) {
   EXPECT_EQ(tool.run({"import", "/"}), 1);
   EXPECT_EQ(tool.errors, "tessaly-reg: can't read /: Is a directory\n");
   EXPECT_EQ(tool.run({"import", "/dev/zero"}), 1);
-  EXPECT_EQ(tool.errors, "tessaly-reg: can't read /dev/zero: it is larger than 64 MiB\n");
+  EXPECT_EQ(tool.errors, "tessaly-reg: can't read /dev/zero: it is larger than 16 MiB\n");
+}
+
+/// A file in UTF-16.
+std::string inUtf16(std::u16string_view content) {
+  return reg::encodeRegFile(u"Windows Registry Editor Version 5.00\n\n" + String(content));
+}
+
+// Such names were taken, and no store has them as they are.
+TEST(RegImport, RefusesHalfCharactersInNames) {
+  const std::pair<String, std::string> rows[] = {
+      {u"[HKCU\\A]\n[HKCU\\A\\\xD800]\n", "4: a name of the key holds half a character"},
+      {u"[HKCU\\\xDE00\xD83D\\A]\n", "3: a name of the key holds half a character"},
+      {u"[HKCU\\A]\n\"x\"=\"\"\n\"\xDFFF\"=\"\"\n", "5: the name of the value holds half a character"},
+      {u"[HKCU\\A]\n\"a\xD800\"=-\n", "4: the name of the value holds half a character"}};
+  for (const auto& [content, error] : rows) {
+    Tool tool;
+    EXPECT_EQ(tool.import(inUtf16(content)), 1);
+    EXPECT_EQ(tool.errors, fileOf(tool) + ':' + error + "\ntessaly-reg: can't import " + fileOf(tool) +
+                               ": 1 error; nothing was changed\n");
+    EXPECT_EQ(tool.user->revision(), Tool().user->revision());
+  }
+  Tool tool;
+  EXPECT_EQ(tool.import(inUtf16(u"[HKCU\\\xD83D\xDE00]\n\"\xD83D\xDE00\"=\"\xD800\"\n")), 0) << tool.errors;
+}
+
+// A preview promised what the import then refused.
+TEST(RegImport, TellsInAPreviewThatAStoreCantBeRead) {
+  Tool tool;
+  tool.userFile = toUtf8(tool.folder.write(u"user.hive", std::string(5000, '!')));
+  tool.userInForce = platform::hiveAt(tool.userFile, platform::HiveReaders::Owner);
+  for (const std::vector<std::string>& more : {std::vector<std::string>{"/n"}, {}}) {
+    EXPECT_EQ(tool.import(kSettings, more), 1);
+    EXPECT_TRUE(tool.errors.starts_with("tessaly-reg: can't import " + fileOf(tool) +
+                                        ": the file is not one that holds settings, or of a later version\n"
+                                        "The file is " +
+                                        tool.userFile.string() + ". "))
+        << tool.errors;
+  }
+  EXPECT_EQ(tool.import(regFile("[HKLM\\A]\n"), {"/n"}), 0)
+      << "the other store does not matter where it is not meant";
 }
 
 /// A store whose changes fail at the end.
@@ -192,6 +235,27 @@ TEST(RegImport, SaysWhatStaysWhereTheMachinesPartFailsAtTheVeryEnd) {
                 ": the file that holds the settings can't be read or written\n"
                 "The file is /machine.hive.\nThe user's keys are imported, the machine's are as before.\n");
   EXPECT_EQ(tool.exported("HKLM"), regFile("[HKEY_LOCAL_MACHINE]\n\n"));
+}
+
+TEST(RegMessages, NameTheFileThatOthersAreWriting) {
+  Tool tool;
+  tool.userInForce = std::make_shared<FailingKeys>(platform::registry_result::kBusy);
+  EXPECT_EQ(tool.run({"add", "HKCU\\A"}), 1);
+  EXPECT_EQ(tool.errors,
+            "tessaly-reg: can't change HKEY_CURRENT_USER\\A: other programs are writing and gave no turn\n"
+            "The file is /user.hive; try again when they have written.\n");
+}
+
+// A file that can't be made was told as a key that is not there.
+TEST(RegMessages, NameTheFileThatCantBeMade) {
+  Tool tool;
+  tool.userInForce = std::make_shared<FailingKeys>(platform::registry_result::kNotFound);
+  const std::string why =
+      ": the file that holds the settings can't be read or written\nThe file is /user.hive.\n";
+  EXPECT_EQ(tool.run({"add", "HKCU\\A"}), 1);
+  EXPECT_EQ(tool.errors, "tessaly-reg: can't change HKEY_CURRENT_USER\\A" + why);
+  EXPECT_EQ(tool.import(regFile("[HKCU\\A]\n")), 1);
+  EXPECT_EQ(tool.errors, "tessaly-reg: can't import " + fileOf(tool) + why + "Nothing was changed.\n");
 }
 
 TEST(RegMessages, TellWhatHelpsWithADamagedFile) {

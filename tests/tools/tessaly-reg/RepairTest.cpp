@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
+#include <system_error>
+#include <utility>
 
 #include "tessaly/platform/keys/HiveFile.h"
 #include "tests/tools/tessaly-reg/Tool.h"
@@ -86,8 +89,54 @@ TEST_F(RegRepairTest, RefusesWhatIsNoFileOfSettings) {
 }
 
 TEST_F(RegRepairTest, LooksAtTheMachinesAndTheUsersFileWhereNoneIsNamed) {
+  tool.machineFile = tool.folder.path() / "none" / "machine.hive";
+  tool.userFile = tool.folder.path() / "user.hive";
   EXPECT_EQ(tool.run({"repair"}), 0);
-  EXPECT_EQ(tool.out, "/machine.hive: nothing is kept there yet\n/user.hive: nothing is kept there yet\n");
+  EXPECT_EQ(tool.out, tool.machineFile.string() + ": nothing is kept there yet\n" + tool.userFile.string() +
+                          ": nothing is kept there yet\n");
+}
+
+TEST_F(RegRepairTest, GivesTheGreaterExitCodeOfTwoFiles) {
+  damage();
+  tool.machineFile = hive;
+  tool.userFile = tool.folder.path() / "user.hive";
+  EXPECT_EQ(tool.run({"repair", "/n"}), 1);
+  std::swap(tool.machineFile, tool.userFile);
+  EXPECT_EQ(tool.run({"repair", "/n"}), 1);
+  EXPECT_EQ(tool.run({"repair"}), 0);
+}
+
+// What could not be looked at was told as a file that is not there, and the exit code was 0.
+TEST_F(RegRepairTest, FailsWhereItCantLook) {
+  const files::path ring = tool.folder.path() / "ring.hive";
+  files::create_symlink("ring.hive", ring);
+  const std::string why = std::make_error_code(std::errc::too_many_symbolic_link_levels).message();
+  const std::string expected = "tessaly-reg: can't repair " + ring.string() + ": " + why + "\n";
+  EXPECT_EQ(tool.run({"repair", ring.string()}), 1);
+  EXPECT_EQ(tool.errors, expected);
+  tool.machineFile = ring;
+  tool.userFile = hive;
+  EXPECT_EQ(tool.run({"repair"}), 1);
+  EXPECT_EQ(tool.errors, expected);
+  EXPECT_EQ(tool.out, hive.string() + ": nothing is wrong\n");
+}
+
+TEST_F(RegRepairTest, IsNotAllowedToLookIntoAClosedFolder) {
+  if (geteuid() == 0) GTEST_SKIP() << "nothing is forbidden to root";
+  files::permissions(tool.folder.path(), files::perms::none);
+  EXPECT_EQ(repair(), 1);
+  EXPECT_EQ(tool.errors, "tessaly-reg: can't repair " + hive.string() + ": Permission denied\n");
+  files::permissions(tool.folder.path(), files::perms::owner_all);
+}
+
+TEST_F(RegRepairTest, MendsTheFileThatALinkLeadsTo) {
+  damage();
+  const files::path link = tool.folder.path() / "link.hive";
+  files::create_symlink(hive.filename(), link);
+  EXPECT_EQ(tool.run({"repair", link.string()}), 0) << tool.errors;
+  EXPECT_TRUE(tool.out.starts_with(hive.string() + ": ")) << tool.out;
+  EXPECT_TRUE(files::is_symlink(link));
+  EXPECT_TRUE(files::exists(hive.string() + ".damaged"));
 }
 
 }  // namespace

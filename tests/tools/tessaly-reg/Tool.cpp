@@ -16,7 +16,7 @@ int Tool::run(const std::vector<std::string>& words) {
   };
   const auto openStores = [this](const reg::Arguments& /*arguments*/) {
     ++openings;
-    return reg::Stores{{machineInForce, "/machine.hive"}, {userInForce, "/user.hive"}, u"S-1-22-1-1000"};
+    return reg::Stores{{machineInForce, machineFile}, {userInForce, userFile}, u"S-1-22-1-1000"};
   };
   const int code = reg::run(words, {outStream, errorStream, ask, openStores});
   out = outStream.str();

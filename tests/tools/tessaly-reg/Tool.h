@@ -39,6 +39,10 @@ class Tool {
   /// What the tool works on, unless a test puts another store in its place.
   std::shared_ptr<platform::KeyStore> machineInForce = machine;
   std::shared_ptr<platform::KeyStore> userInForce = user;
+
+  /// The files that messages name.
+  std::filesystem::path machineFile = "/machine.hive";
+  std::filesystem::path userFile = "/user.hive";
   const TemporaryFolder folder;
 };
 

@@ -19,10 +19,20 @@ TEST(RegVisibleText, ShowsWhatATerminalWouldObey) {
       {u"\0\x1B\x7F\x80\x9F"s, "\\u0000\\u001B\\u007F\\u0080\\u009F"},
       {u"\t\r\n", "\\u0009\\u000D\\u000A"},
       {u"\x202E\x2066\x200F\x061C\x2028\xFEFF", "\\u202E\\u2066\\u200F\\u061C\\u2028\\uFEFF"},
+      {u"\xAD\x200B\x200D\x2060\x2064\xFFF9", "\\u00AD\\u200B\\u200D\\u2060\\u2064\\uFFF9"},
+      {u"\xDB40\xDC41 \x2010", "\\uDB40\\uDC41 \xE2\x80\x90"},
       {u"\xD83Dx\xDE00", "\\uD83Dx\\uDE00"},
       {u"", ""}};
   for (const auto& [text, expected] : rows) EXPECT_EQ(visible(text), expected);
   EXPECT_EQ(visible("a\x1b\xFF"), "a\\u001B\xEF\xBF\xBD");
+}
+
+TEST(RegVisibleText, KnowsWhatIsHidden) {
+  for (const char32_t c :
+       {0xAD, 0x61C, 0x200B, 0x200F, 0x2028, 0x202E, 0x2060, 0x2069, 0xFEFF, 0xE0000, 0xE007F})
+    EXPECT_TRUE(isHidden(c)) << std::uint32_t{c};
+  for (const char32_t c : {0x20, 0xAC, 0xAE, 0x200A, 0x2010, 0x2027, 0x202F, 0x2070, 0x1F600, 0xE0080})
+    EXPECT_FALSE(isHidden(c)) << std::uint32_t{c};
 }
 
 TEST(RegVisibleText, IsBoundedInMessages) {

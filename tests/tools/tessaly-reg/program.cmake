@@ -49,11 +49,54 @@ run(1 "bad.reg:4: expected" import "${FOLDER}/bad.reg")
 run(1 "there is no such key" query "HKCU\\Bad")
 
 run(0 "machine.hive: nothing is wrong\n.*user.hive: nothing is wrong" repair)
-file(WRITE "${FOLDER}/user/tessaly/user.hive" "no hive at all")
-run(1 "not one that holds settings.*tessaly-reg repair" query HKCU)
-run(1 "user.hive: " repair /n)
+run(2 "the user's file and the machine's are one" --machine "${FOLDER}/x.hive" --user "${FOLDER}/./x.hive" query HKCU)
+run(0 "completed" --machine "${FOLDER}/other-machine.hive" add "HKLM\\Software\\Tool" /v Folder /d /else)
+run(0 "    Folder    REG_SZ    /else\n" --machine "${FOLDER}/other-machine.hive" query "HKLM\\Software\\Tool")
+run(0 "    Folder    REG_SZ    /opt\n" query "HKLM\\Software\\Tool")
+run(1 "can't be read or written\nThe file is /proc/none/x.hive" --user /proc/none/x.hive add "HKCU\\A")
 
-execute_process(COMMAND "${TOOL}" --help OUTPUT_FILE /dev/full ERROR_QUIET RESULT_VARIABLE result)
-if(NOT result EQUAL 1)
-  message(FATAL_ERROR "A full disk is not noticed: ${result}")
+# Damaged hives: the user's is none at all, of the machine's a part is overwritten.
+set(userHive "${FOLDER}/user/tessaly/user.hive")
+set(machineHive "${FOLDER}/machine/tessaly/machine.hive")
+file(WRITE "${userHive}" "no hive at all")
+execute_process(COMMAND sh -c "printf '%64s' x | dd of=\"$0\" bs=1 seek=4096 conv=notrunc" "${machineHive}"
+                ERROR_QUIET COMMAND_ERROR_IS_FATAL ANY)
+file(SHA256 "${machineHive}" machineBefore)
+run(1 "not one that holds settings.*${userHive}.*tessaly-reg repair" query HKCU /s)
+run(1 "not one that holds settings" add "HKCU\\A" /v x /d y)
+run(1 "not one that holds settings" import "${FOLDER}/tool.reg")
+run(1 "would give.*not one that holds settings" import "${FOLDER}/tool.reg" /n)
+run(1 "damaged.*${machineHive}.*tessaly-reg repair" query HKLM /s)
+run(1 "damaged" add "HKLM\\A" /v x /d y)
+run(1 "machine.hive: .*user.hive: " repair /n)
+file(READ "${userHive}" user)
+file(SHA256 "${machineHive}" machineAfter)
+if(NOT user STREQUAL "no hive at all" OR NOT machineAfter STREQUAL machineBefore)
+  message(FATAL_ERROR "A damaged hive was changed")
 endif()
+run(1 "Repaired: .*machine.hive.damaged.*can't repair .*user.hive" repair)
+run(0 "HKEY_LOCAL_MACHINE" query HKLM /s)
+file(REMOVE "${userHive}")
+run(0 "machine.hive: nothing is wrong\n.*user.hive: nothing is kept there yet" repair)
+
+# ends(<what is tried> <exit code> <regular expression for what is written> <shell command>)
+function(ends what code expected command)
+  execute_process(COMMAND sh -c "${command}" "${TOOL}" "${FOLDER}" OUTPUT_VARIABLE output ERROR_VARIABLE errors
+                  RESULT_VARIABLE result)
+  if(NOT result STREQUAL code OR NOT "${output}${errors}" MATCHES "${expected}")
+    message(FATAL_ERROR "${what}: ends with ${result}, expected ${code}, and writes\n${output}${errors}")
+  endif()
+endfunction()
+
+ends("A full disk" 1 "can't write the output\n$" "\"$0\" --help >/dev/full")
+ends("A closed output" 1 "can't write the output\n$" "\"$0\" add 'HKCU\\\\A' /v x /d y >&-")
+ends("Closed errors" 1 "^$" "\"$0\" query 'HKCU\\\\None' 2>&-")
+run(0 "    x    REG_SZ    y\n" query "HKCU\\A")
+run(0 "nothing is wrong" repair "${userHive}")
+
+# The reader goes before the first word is written; the fifo tells when.
+ends("A reader that has gone" 0 "^1\n$" "
+  mkfifo \"$1/gone\"
+  { read -r word <\"$1/gone\"; \"$0\" --help 2>\"$1/errors\"; echo $? >\"$1/code\"; } |
+    { exec <&-; echo gone >\"$1/gone\"; }
+  cat \"$1/code\" \"$1/errors\"")
