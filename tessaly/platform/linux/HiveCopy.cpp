@@ -68,11 +68,12 @@ Long copyHive(HiveFile& hive, const std::filesystem::path& target) {
   }
   sqlite::run(hive.database(), "ROLLBACK");
   const std::filesystem::path journal = journalOf(hive.realPath());
+  const FileState none{};
   const FileState before = stateOf(journal);
   std::error_code error;
   const bool isCopied =
       copyFile(*hive.file(), target) &&
-      (before == FileState() || std::filesystem::copy_file(journal, journalOf(target), error));
+      (before == none || std::filesystem::copy_file(journal, journalOf(target), error));
   if (!hive.isAsMarked() || stateOf(journal) != before) return kBusy;
   return isCopied ? kSuccess : kIoFailed;
 }

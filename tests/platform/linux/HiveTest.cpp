@@ -5,12 +5,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
 
 #include "tessaly/platform/keys/KeyLimits.h"
-#include "tests/platform/linux/HiveSupport.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/platform/linux/HiveFixture.h"
 
 namespace tessaly::tests {
 namespace {
@@ -19,18 +17,6 @@ using namespace platform;
 using namespace registry_result;
 using std::filesystem::exists;
 using std::filesystem::path;
-
-class HiveTest : public testing::Test {
- protected:
-  path folder() const { return temporary_.path() / "config" / "tessaly"; }
-  path file() const { return folder() / "user.hive"; }
-  std::unique_ptr<KeyStore> open(HiveReaders readers = HiveReaders::Owner) const {
-    return hiveAt(file(), readers);
-  }
-
-  TemporaryFolder temporary_;
-  std::unique_ptr<KeyStore> hive_ = open();
-};
 
 /// The mask of modes, put back in the end.
 class Umask {
@@ -82,109 +68,6 @@ TEST_F(HiveTest, ModesDoNotDependOnTheMask) {
     EXPECT_EQ(modeOf(path(file()) += "-journal"), 0644U);
     EXPECT_EQ(modeOf(folder()), 0755U);
   }
-}
-
-TEST_F(HiveTest, SeesWhatAnotherHasWritten) {
-  const auto other = open();
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), std::nullopt);
-  const auto before = hive_->revision();
-  ASSERT_EQ(put(*other, {u"a"}, u"v", u"1"), kSuccess);
-  EXPECT_NE(hive_->revision(), before);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"1");
-  const auto between = hive_->revision();
-  EXPECT_EQ(hive_->revision(), between);
-  ASSERT_EQ(put(*other, {u"a"}, u"v", u"2"), kSuccess);
-  EXPECT_NE(hive_->revision(), between);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"2");
-}
-
-TEST_F(HiveTest, TheRevisionStandsWhileNothingChanges) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"1"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"1");
-  const auto revision = hive_->revision();
-  for (int i = 0; i < 3; ++i) {
-    EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"1");
-    EXPECT_EQ(hive_->revision(), revision);
-  }
-}
-
-TEST_F(HiveTest, SeesThatTheFileWasReplaced) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
-  const path made = folder() / "new.hive";
-  ASSERT_EQ(put(*hiveAt(made, HiveReaders::Owner), {u"a"}, u"v", u"new"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
-  const auto before = hive_->revision();
-  std::filesystem::rename(made, file());
-  EXPECT_NE(hive_->revision(), before);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"new");
-}
-
-TEST_F(HiveTest, SeesThatTheFileWasReplacedThoughAnotherNameOfItIsLeft) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
-  const auto before = hive_->revision();
-  std::filesystem::rename(file(), folder() / "kept.hive");
-  EXPECT_NE(hive_->revision(), before);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), std::nullopt);
-}
-
-TEST_F(HiveTest, SeesThatTheFileWasRemovedAndMadeAgain) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
-  std::filesystem::remove_all(folder());
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), std::nullopt);
-  EXPECT_FALSE(exists(folder()));
-  ASSERT_EQ(put(*open(), {u"a"}, u"v", u"new"), kSuccess);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"new");
-}
-
-TEST_F(HiveTest, AWriteGoesIntoTheFileThatIsThereNow) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
-  std::filesystem::remove_all(folder());
-  EXPECT_EQ(put(*hive_, {u"b"}, u"v", u"new"), kSuccess);
-  EXPECT_EQ(get(*open(), {u"b"}, u"v"), u"new");
-  EXPECT_EQ(get(*open(), {u"a"}, u"v"), std::nullopt);
-}
-
-TEST_F(HiveTest, SeesThatAnOlderContentWasPutBackInPlace) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
-  const std::string backup = bytesOf(file());
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"new"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"new");
-  const auto before = hive_->revision();
-  writeBytes(file(), backup);
-  EXPECT_NE(hive_->revision(), before);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
-}
-
-TEST_F(HiveTest, SeesAWriteAfterAnOlderContentWithTheSameCountWasPutBack) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"0"), kSuccess);
-  const std::string backup = bytesOf(file());
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"lost"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"lost");
-  // SQLite's change counter is then the one that this process has seen.
-  writeBytes(file(), backup);
-  ASSERT_EQ(inProcess([&] { return put(*open(), {u"a"}, u"w", u"kept") == kSuccess ? 0 : 1; }), 0);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"0");
-  EXPECT_EQ(get(*hive_, {u"a"}, u"w"), u"kept");
-  ASSERT_EQ(put(*hive_, {u"a"}, u"x", u"new"), kSuccess);
-  EXPECT_EQ(get(*open(), {u"a"}, u"w"), u"kept");
-  EXPECT_TRUE(hiveFaults(file()).empty());
-}
-
-TEST_F(HiveTest, SeesThatTheFolderWasExchanged) {
-  ASSERT_EQ(put(*hive_, {u"a"}, u"v", u"old"), kSuccess);
-  ASSERT_EQ(get(*hive_, {u"a"}, u"v"), u"old");
-  const auto before = hive_->revision();
-  const path other = folder().parent_path() / "other";
-  ASSERT_EQ(put(*hiveAt(other / "user.hive", HiveReaders::Owner), {u"a"}, u"v", u"new"), kSuccess);
-  std::filesystem::rename(folder(), folder().parent_path() / "kept");
-  std::filesystem::rename(other, folder());
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-  while (hive_->revision() == before && std::chrono::steady_clock::now() < end) {
-  }
-  EXPECT_NE(hive_->revision(), before);
-  EXPECT_EQ(get(*hive_, {u"a"}, u"v"), u"new");
 }
 
 TEST_F(HiveTest, KeysGoSoDeepAndNoDeeper) {

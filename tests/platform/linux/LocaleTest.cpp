@@ -79,9 +79,16 @@ TEST_F(LinuxLocaleTest, AsksTheVariablesInTheirOrder) {
 }
 
 TEST_F(LinuxLocaleTest, HasTheUsersDecimalSeparator) {
-  const std::pair<const char*, const char*> rows[] = {{"C", "."},           {"en_US.UTF-8", "."},
-                                                      {"de_DE.UTF-8", ","}, {"fr_FR.UTF-8", ","},
-                                                      {"ja_JP.UTF-8", "."}, {"fa_IR.UTF-8", "٫"}};
+  const std::pair<const char*, const char*> rows[] = {
+      {"C", "."}, {"en_US.UTF-8", "."}, {"de_DE.UTF-8", ","}, {"fr_FR.UTF-8", ","}, {"ja_JP.UTF-8", "."}};
+  for (const auto& [locale, separator] : rows) EXPECT_EQ(separatorOf(locale), separator) << locale;
+}
+
+/// A date was once stored with a separator for Arabic digits, which the code page does not have.
+TEST_F(LinuxLocaleTest, HasTheSeparatorOfLatinDigitsWhereTheUserHasOthers) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"ar_EG.UTF-8", "."}, {"ar_SA.UTF-8", "."}, {"fa_IR.UTF-8", "."}, {"ur_IN.UTF-8", "."},
+      {"hi_IN.UTF-8", "."}, {"ar_LB.UTF-8", ","}, {"ps_AF.UTF-8", ","}};
   for (const auto& [locale, separator] : rows) EXPECT_EQ(separatorOf(locale), separator) << locale;
 }
 
