@@ -90,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   HiveRepair repair;
   if (repairHive(damaged, repair) == registry_result::kSuccess) {
     require(hiveFaults(damaged).empty());
-    require(bytesOf(repair.damaged) == bytes);
+    require(bytesOf(repair.damaged.empty() ? damaged : repair.damaged) == bytes);
     require(write(*hiveAt(damaged, HiveReaders::Owner)) == registry_result::kSuccess);
   }
   return 0;

@@ -43,6 +43,18 @@ class Opened {
   bool isOpen_ = false;
 };
 
+/// Goes by one name at a time, since a platform may bound whole paths. A name that can't be reached ends it.
+void removeBelow(RegistryKey key) {
+  std::array<char, 1000> name{};
+  while (registry().RegEnumKeyA(key, 0, name.data(), static_cast<std::uint32_t>(name.size())) == 0) {
+    RegistryKey inner = 0;
+    if (registry().RegOpenKeyExA(key, name.data(), platform::kKeyRead, inner) != 0) return;
+    removeBelow(inner);
+    registry().RegCloseKey(inner);
+    if (registry().RegDeleteKeyA(key, name.data()) != 0) return;
+  }
+}
+
 class OwnSettingsWorld final : public SettingsWorld {
  public:
   OwnSettingsWorld() { useOwnSettings(); }
@@ -96,17 +108,7 @@ bool hasKey(RegistryKey root, std::u16string_view path) { return Opened(root, pa
 void removeKey(RegistryKey root, const std::string& path) {
   RegistryKey opened = 0;
   if (registry().RegOpenKeyExA(root, path.c_str(), platform::kKeyRead, opened) != 0) return;
-  std::array<char, 1000> name{};
-  while (registry().RegEnumKeyA(opened, 0, name.data(), static_cast<std::uint32_t>(name.size())) == 0) {
-    const std::string inner = path + '\\' + name.data();
-    removeKey(root, inner);
-    // A name that the code page lacks can't be reached this way.
-    RegistryKey still = 0;
-    if (registry().RegOpenKeyExA(root, inner.c_str(), platform::kKeyRead, still) == 0) {
-      registry().RegCloseKey(still);
-      break;
-    }
-  }
+  removeBelow(opened);
   registry().RegCloseKey(opened);
   registry().RegDeleteKeyA(root, path.c_str());
 }

@@ -139,6 +139,7 @@ std::vector<std::string> hiveFaults(const std::filesystem::path& path) {
   const Long copied = folder.path().empty() ? kIoFailed : copySteadily(file, copyIn(folder));
   if (copied == kNotFound) return {};
   if (copied != kSuccess) return {wordsFor(copied)};
+  if (!file.hasJournalModeOfHives()) return {"it is in a journal mode that hives don't have"};
   if (isOfLaterVersion(bytesOf(copyIn(folder)))) return {"it was made by a later version"};
   sqlite::Database copy;
   Long result = sqlite::resultOf(sqlite::open(copyIn(folder), SQLITE_OPEN_READWRITE, copy));

@@ -266,6 +266,17 @@ TEST_F(HiveDamageTest, ASoundHiveIsLeftAlone) {
   EXPECT_TRUE(bytesOf(file()) == sound_);
 }
 
+TEST_F(HiveDamageTest, AnotherJournalModeIsDamageThatIsRepaired) {
+  std::string damaged = sound_;
+  damaged[18] = damaged[19] = 2;
+  writeBytes(file(), damaged);
+  EXPECT_EQ(resultOfGet(*open(), {u"Software", u"Beta"}, nameOf(0)), kNotAHive);
+  EXPECT_EQ(hiveFaults(file()).size(), 1U);
+  HiveRepair repair;
+  ASSERT_EQ(repairHive(file(), repair), kSuccess);
+  EXPECT_EQ(countTrue(*open()), kAll);
+}
+
 TEST_F(HiveDamageTest, AHiveOfALaterVersionIsReadByNobodyAndNotRepaired) {
   const auto open = this->open();
   EXPECT_EQ(countTrue(*open), kAll);
