@@ -19,7 +19,7 @@ constexpr std::uint32_t kTextBuffer = 1000;
 
 /// As many characters as the value has bytes, unless it is cut before.
 String storedText(std::string_view bytes) {
-  platform::BufferText stored(bytes, kTextBuffer);
+  platform::BufferText stored(bytes);
   if (!stored.isCut) stored.text.resize(bytes.size(), u' ');
   return std::move(stored.text);
 }

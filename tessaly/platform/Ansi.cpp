@@ -10,6 +10,10 @@ namespace {
 
 constexpr unsigned kFirstOther = 0x80;
 
+constexpr Long kThai = 874;
+constexpr Long kFirstOneByte = 1250;
+constexpr Long kLastOneByte = 1258;
+
 /// Goes on to the end whatever it meets, so that the compiler takes many characters at a time.
 template <class Text>
 bool isAllAscii(const Text& text) {
@@ -47,6 +51,11 @@ bool isNegativeAnsi(char16_t unit) {
   if (unit < kFirstOther) return false;
   const std::string bytes = toAnsi({&unit, 1});
   return bytes.size() > 1 && static_cast<unsigned char>(bytes.front()) >= kFirstOther;
+}
+
+bool mayHaveNegativeAnsi() {
+  const Long page = core().locale->GetACP();
+  return page != kThai && (page < kFirstOneByte || page > kLastOneByte);
 }
 
 }  // namespace tessaly::platform

@@ -18,4 +18,7 @@ String fromAnsi(std::string_view text);
 /// more and another behind it. A single byte is 0 to 255.
 bool isNegativeAnsi(char16_t unit);
 
+/// Whether the code page may have such a character at all, which none of Windows's one-byte pages has.
+bool mayHaveNegativeAnsi();
+
 }  // namespace tessaly::platform

@@ -7,10 +7,10 @@
 namespace tessaly::platform {
 
 /// What a call has put at the front of an 8-bit buffer of blanks, as wide text: up to its first character
-/// whose ANSI code, as a signed 16-bit number, is below 32. Where none is, the text may have one of the
-/// buffer's blanks at its end, or have taken it in: a lead byte without its trail byte takes what follows.
+/// whose ANSI code, as a signed 16-bit number, is below 32. The blanks behind the front are left out: a
+/// lead byte at its end would take the first of them in, but alone it becomes the same unknown character.
 struct BufferText {
-  BufferText(std::string_view front, std::size_t bufferSize);
+  explicit BufferText(std::string_view front);
 
   String text;
   bool isCut = false;

@@ -32,7 +32,7 @@ constexpr double kBehindDates = 2958466;
 
 /// A text that some program stored with its NUL ends there; one of ours is followed by the buffer's spaces.
 String storedText(std::string_view bytes) {
-  platform::BufferText stored(bytes, kTextBuffer);
+  platform::BufferText stored(bytes);
   if (!stored.isCut) stored.text.erase(stored.text.find_last_not_of(u' ') + 1);
   return std::move(stored.text);
 }

@@ -38,10 +38,10 @@ class TESSALY_API CRegistry {
   virtual Boolean LongKeyExists(std::u16string_view name) const;
   virtual Boolean StringKeyExists(std::u16string_view name) const;
 
-  /// A text. It comes back up to its first character below a space, and without the spaces at its end. With a
-  /// code page that gives characters two bytes, it is cut to as many bytes as it has characters when it is
-  /// written, and ends before the first of two bytes when it is read. A value of over 30000 bytes gives the
-  /// default.
+  /// A text. It comes back up to its first character below a space, and where nothing cuts it, without the
+  /// spaces at its end. With a code page that gives characters two bytes, it is cut to as many bytes as it
+  /// has characters when it is written, and ends before the first of two bytes when it is read. A value of
+  /// over 30000 bytes gives the default.
   virtual void SetString(std::u16string_view name, std::u16string_view text);
   virtual String GetString(std::u16string_view name, std::u16string_view defaultText) const;
 
@@ -68,8 +68,8 @@ class TESSALY_API CRegistry {
   /// operations below take a selector as `root` does and the whole path, and use nothing of the object.
   virtual Variant GetSubkeysNumber(Long rootSelector, std::u16string_view path) const;
 
-  /// The name of a subkey by its place from 1, without spaces at its front; empty where there is none. Error
-  /// 6 for the lowest number of all, where the key can be opened.
+  /// The name of a subkey by its place from 1, without spaces at its front and control characters at its end;
+  /// empty where there is none. Error 6 for the lowest number of all, where the key can be opened.
   virtual String GetSubKeyName(Long rootSelector, std::u16string_view path, Long index) const;
 
   /// Deletes a key with what lies under it. The result is a Boolean, false where all went well and true where

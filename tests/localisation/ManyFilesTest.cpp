@@ -9,6 +9,7 @@
 #include "tessaly/localisation/CResources.h"
 #include "tests/support/LanguageFolder.h"
 #include "tests/support/Print.h"
+#include "tests/support/World.h"
 
 namespace tessaly {
 namespace {
@@ -43,18 +44,33 @@ class CountedFiles final : public platform::Files {
 
 String fileName(int n) { return fromUtf8(std::to_string(10000 + n) + ".xml"); }
 
+std::string langName(int n) { return "Language " + std::to_string(n); }
+
 /// One file of four is a language, one is another application's, one is broken, one has no language's name.
-/// They are put in another order than that of their names.
+std::string contentOf(int n) {
+  const std::array<std::string, 4> contents = {document(general(langName(n), n + 1) + text(1, langName(n))),
+                                               document(general(langName(n), n + 1, "other")), "<broken",
+                                               document(general("", n + 1))};
+  return contents[static_cast<std::size_t>(n % 4)];
+}
+
+/// 2000 of these files make a list of 1000.
+void expectTheList(CResources& resources) {
+  ASSERT_EQ(resources.numberOfLangs(), 1000);
+  for (Long position = 1; position <= 1000; position += 2) {
+    const Long file = (position - 1) * 2;
+    EXPECT_EQ(shown(resources.resLang(position)), langName(file));
+    EXPECT_EQ(resources.resLangID(position), file + 1);
+    EXPECT_EQ(resources.resLang(position + 1), u"");
+    EXPECT_EQ(resources.resLangID(position + 1), 0);
+  }
+}
+
 class ManyFilesTest : public testing::Test {
  protected:
+  /// Puts them in another order than that of their names.
   void put(int count) {
-    for (int i = count - 1; i >= 0; --i) {
-      const std::string lang = "Language " + std::to_string(i);
-      const std::array<std::string, 4> contents = {document(general(lang, i + 1) + text(1, lang)),
-                                                   document(general(lang, i + 1, "other")), "<broken",
-                                                   document(general("", i + 1))};
-      folder_.put(fileName(i), contents[static_cast<std::size_t>(i % 4)]);
-    }
+    for (int i = count - 1; i >= 0; --i) folder_.put(fileName(i), contentOf(i));
   }
 
   std::ptrdiff_t xmlCalls(const char* call) const {
@@ -75,14 +91,18 @@ class ManyFilesTest : public testing::Test {
 TEST_F(ManyFilesTest, AreListedInTheOrderOfTheirNames) {
   put(2000);
   prepare();
-  ASSERT_EQ(resources_.numberOfLangs(), 1000);
-  for (Long position = 1; position <= 1000; position += 2) {
-    const Long file = (position - 1) * 2;
-    EXPECT_EQ(shown(resources_.resLang(position)), "Language " + std::to_string(file));
-    EXPECT_EQ(resources_.resLangID(position), file + 1);
-    EXPECT_EQ(resources_.resLang(position + 1), u"");
-    EXPECT_EQ(resources_.resLangID(position + 1), 0);
-  }
+  expectTheList(resources_);
+}
+
+TEST(ManyRealFilesTest, AreListedInTheOrderOfTheirNames) {
+  const auto world = tests::World::make(tests::Body::Own);
+  for (int i = 1999; i >= 0; --i) world->put(fileName(i), contentOf(i));
+  CResources resources;
+  resources.applicationGUID(u"G");
+  resources.resourcesPath(world->folder());
+  expectTheList(resources);
+  resources.lang(1 + 1996);
+  EXPECT_EQ(shown(resources.res(0)), langName(1996));
 }
 
 TEST_F(ManyFilesTest, AreReadOnceEach) {

@@ -65,7 +65,7 @@ class CodePagesTest : public testing::TestWithParam<Long> {
 };
 
 INSTANTIATE_TEST_SUITE_P(Page, CodePagesTest,
-                         testing::Values(1252, 1251, 1255, 874, 932, 936, 949, 950, 65001),
+                         testing::Values(874, 932, 936, 949, 950, 1250, 1251, 1252, 1255, 1258, 65001),
                          testing::PrintToStringParamName());
 
 /// The reading as it is documented, word for word: a buffer of 30000 spaces, turned into wide text as a
@@ -117,6 +117,38 @@ TEST_P(CodePagesTest, AFullBufferHasNoSpaceForALeadByteToTake) {
   const std::string bytes = std::string(29999, 'x') + '\x81';
   putBytes(bytes);
   EXPECT_EQ(shown(settings_.GetString(u"v", u"default")), shown(readAsDocumented(bytes)));
+}
+
+/// Counts how often a text's bytes are asked for.
+class CountingLocale final : public platform::Locale {
+ public:
+  explicit CountingLocale(platform::Locale& real) : real_(&real) {}
+
+  Long GetUserDefaultLCID() override { return real_->GetUserDefaultLCID(); }
+  String decimalSeparator() override { return real_->decimalSeparator(); }
+  Long GetACP() override { return real_->GetACP(); }
+  std::string WideCharToMultiByte(Long codePage, std::u16string_view text) override {
+    ++count;
+    return real_->WideCharToMultiByte(codePage, text);
+  }
+  String MultiByteToWideChar(Long codePage, std::string_view text) override {
+    return real_->MultiByteToWideChar(codePage, text);
+  }
+  String CharUpperW(std::u16string_view text) override { return real_->CharUpperW(text); }
+
+  int count = 0;
+
+ private:
+  platform::Locale* real_;
+};
+
+TEST_P(CodePagesTest, OnlyAPageThatMayCutIsAskedForACharactersBytes) {
+  putBytes("\xB1\xB2\xB3");
+  CountingLocale counting(locale_);
+  const platform::Override override(counting);
+  settings_.GetString(u"v", u"default");
+  const bool mayCut = GetParam() > 1258 || (GetParam() >= 932 && GetParam() <= 950);
+  EXPECT_EQ(counting.count > 0, mayCut);
 }
 
 TEST_P(CodePagesTest, TheSizeIsTheNumberOfCharacters) {

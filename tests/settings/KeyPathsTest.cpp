@@ -4,7 +4,10 @@
 
 #include <limits>
 
+#include "tessaly/platform/Core.h"
+#include "tessaly/platform/fake/Registry.h"
 #include "tessaly/settings/CRegistry.h"
+#include "tests/support/ForwardingRegistry.h"
 #include "tests/support/Print.h"
 #include "tests/support/SettingsWorld.h"
 
@@ -123,6 +126,52 @@ TEST_P(KeyPathsTest, ACopyGoesItsOwnWay) {
   copy.root(7);
   copy.rootPath(u"other");
   EXPECT_EQ(settings_.GetLong(u"v", 0), 4);
+}
+
+/// Keeps the path of each call as it comes.
+class SeeingPaths final : public tests::ForwardingRegistry {
+ public:
+  using ForwardingRegistry::ForwardingRegistry;
+
+  Long RegOpenKeyExA(platform::RegistryKey key, const char* path, platform::RegistryAccess access,
+                     platform::RegistryKey& result) override {
+    opened = path;
+    return ForwardingRegistry::RegOpenKeyExA(key, path, access, result);
+  }
+  Long RegCreateKeyExA(platform::RegistryKey key, const char* path, platform::RegistryAccess access,
+                       platform::RegistryKey& result) override {
+    created = path;
+    return ForwardingRegistry::RegCreateKeyExA(key, path, access, result);
+  }
+
+  std::string opened;
+  std::string created;
+};
+
+TEST(KeyPathsOfCalls, AreNeitherTrimmedNorTested) {
+  platform::fake::Registry registry;
+  SeeingPaths seeing(registry);
+  const platform::Override override(seeing);
+  const struct {
+    std::u16string_view rootPath;
+    std::u16string_view subPath;
+    const char* path;
+  } rows[] = {{u"Tool\\", u"inner", "Tool\\\\inner"},
+              {u"", u"sub", "\\sub"},
+              {u"", u"", ""},
+              {u" Tool ", u" sub ", " Tool \\ sub "},
+              {u" Tool\t", u"", " Tool\t"},
+              {u"\\Tool\\\\", u"\\sub\\", "\\Tool\\\\\\\\sub\\"}};
+  for (const auto& row : rows) {
+    CRegistry settings;
+    settings.root(2);
+    settings.rootPath(row.rootPath);
+    settings.subPath(row.subPath);
+    settings.GetLong(u"v", 0);
+    EXPECT_EQ(seeing.opened, row.path);
+    settings.SetLong(u"v", 0);
+    EXPECT_EQ(seeing.created, row.path);
+  }
 }
 
 }  // namespace

@@ -160,6 +160,17 @@ TEST_P(KeysTest, DeleteAKeyWithThreeSubkeysAndSayThatTheyFailed) {
   EXPECT_FALSE(isThere());
 }
 
+/// With more of them an empty name comes up below the key's own path with a backslash behind it, where the
+/// way still leads on: it goes in circles only where the first name is empty.
+TEST_P(KeysTest, DeleteAKeyWithFourOrFiveSubkeysAndSayThatTheyFailed) {
+  put({u"a", u"b", u"c", u"d"});
+  EXPECT_TRUE(failsToDelete());
+  EXPECT_FALSE(isThere());
+  put({u"a", u"b", u"c", u"d", u"e"});
+  EXPECT_TRUE(failsToDelete());
+  EXPECT_FALSE(isThere());
+}
+
 TEST_P(KeysTest, StopAtASubkeyThatCannotBeDeleted) {
   put({u"a\\1", u"a\\2", u"b"});
   EXPECT_TRUE(failsToDelete());

@@ -2,9 +2,11 @@
 
 #include <unicode/dcfmtsym.h>
 #include <unicode/locid.h>
+#include <unicode/numsys.h>
 
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 #include <mutex>
 #include <string>
 
@@ -67,6 +69,19 @@ Long lcidOf(const icu::Locale& locale) {
   return isSpecific(withScript) ? withScript : withoutScript;
 }
 
+/// The separator that goes with Latin digits, which all numbers have here; a locale may have digits of its
+/// own, and a separator for them.
+String separatorOf(const icu::Locale& locale) {
+  UErrorCode error = U_ZERO_ERROR;
+  const std::unique_ptr<icu::NumberingSystem> latin(
+      icu::NumberingSystem::createInstanceByName("latn", error));
+  if (U_FAILURE(error)) return String(1, u'.');
+  const icu::DecimalFormatSymbols symbols(locale, *latin, error);
+  if (U_FAILURE(error)) return String(1, u'.');
+  const auto text = symbols.getSymbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol);
+  return {text.getBuffer(), static_cast<std::size_t>(text.length())};
+}
+
 class LinuxLocale final : public Locale {
  public:
   Long GetUserDefaultLCID() override {
@@ -80,11 +95,7 @@ class LinuxLocale final : public Locale {
     // ICU takes some 100 µs to look it up, and a form asks for each of its numbers.
     const std::lock_guard lock(mutex_);
     if (name != knownName_) {
-      UErrorCode error = U_ZERO_ERROR;
-      const icu::DecimalFormatSymbols symbols(icuLocale(name), error);
-      const auto text = symbols.getSymbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol);
-      knownSeparator_ =
-          U_SUCCESS(error) ? String(text.getBuffer(), static_cast<std::size_t>(text.length())) : u".";
+      knownSeparator_ = separatorOf(icuLocale(name));
       knownName_ = name;
     }
     return knownSeparator_;
