@@ -71,9 +71,8 @@ Long copyHive(HiveFile& hive, const std::filesystem::path& target) {
   const FileState none{};
   const FileState before = stateOf(journal);
   std::error_code error;
-  const bool isCopied =
-      copyFile(*hive.file(), target) &&
-      (before == none || std::filesystem::copy_file(journal, journalOf(target), error));
+  const bool isCopied = copyFile(*hive.file(), target) &&
+                        (before == none || std::filesystem::copy_file(journal, journalOf(target), error));
   if (!hive.isAsMarked() || stateOf(journal) != before) return kBusy;
   return isCopied ? kSuccess : kIoFailed;
 }
