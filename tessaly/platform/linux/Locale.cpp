@@ -75,9 +75,9 @@ String separatorOf(const icu::Locale& locale) {
   UErrorCode error = U_ZERO_ERROR;
   const std::unique_ptr<icu::NumberingSystem> latin(
       icu::NumberingSystem::createInstanceByName("latn", error));
-  if (U_FAILURE(error)) return String(1, u'.');
+  if (U_FAILURE(error)) return {u'.'};
   const icu::DecimalFormatSymbols symbols(locale, *latin, error);
-  if (U_FAILURE(error)) return String(1, u'.');
+  if (U_FAILURE(error)) return {u'.'};
   const auto text = symbols.getSymbol(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol);
   return {text.getBuffer(), static_cast<std::size_t>(text.length())};
 }
