@@ -19,7 +19,6 @@ inline constexpr RegistryKey kCurrentConfig = static_cast<Long>(0x80000005);
 using RegistryAccess = std::uint32_t;
 inline constexpr RegistryAccess kQueryValue = 0x1;
 inline constexpr RegistryAccess kSetValue = 0x2;
-inline constexpr RegistryAccess kCreateSubKey = 0x4;
 inline constexpr RegistryAccess kEnumerateSubKeys = 0x8;
 inline constexpr RegistryAccess kKeyRead = 0x20019;
 inline constexpr RegistryAccess kKeyAllAccess = 0xF003F;

@@ -282,24 +282,9 @@ TEST_F(RegistrySettingsTest, TellsWhetherAFileExists) {
   EXPECT_EQ(CResourcesPeer::fileExists(resources_, u"/texts/a.xml"), False);
 }
 
-/// A registry that wants memory in the middle of a call.
-class WithoutMemory final : public tests::ForwardingRegistry {
- public:
-  using ForwardingRegistry::ForwardingRegistry;
-
-  Long RegQueryValueExA(platform::RegistryKey, const char*, platform::RegistryType&, void*,
-                        std::uint32_t&) override {
-    throw std::bad_alloc();
-  }
-  Long RegSetValueExA(platform::RegistryKey, const char*, platform::RegistryType, const void*,
-                      std::uint32_t) override {
-    throw std::bad_alloc();
-  }
-};
-
 TEST_F(RegistrySettingsTest, LeavesNoKeyOpenForWantOfMemory) {
   putFolder("/texts");
-  WithoutMemory poor(registry_);
+  tests::RegistryWithoutMemory poor(registry_);
   const platform::Override override(poor);
   EXPECT_THROW(resources_.SetResourcesPathFromRegistry(kPath, u"Resources"), std::bad_alloc);
   EXPECT_THROW(resources_.SetLangToRegistries(kPath, u"Lang", 1), std::bad_alloc);

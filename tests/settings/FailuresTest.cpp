@@ -211,27 +211,8 @@ TEST_F(FailuresTest, AnErrorLeavesNoKeyOpen) {
   EXPECT_EQ(registry_.openKeys(), 0);
 }
 
-/// A registry that wants memory in the middle of a call.
-class WithoutMemory final : public tests::ForwardingRegistry {
- public:
-  using ForwardingRegistry::ForwardingRegistry;
-
-  Long RegQueryValueExA(platform::RegistryKey, const char*, platform::RegistryType&, void*,
-                        std::uint32_t&) override {
-    throw std::bad_alloc();
-  }
-  Long RegSetValueExA(platform::RegistryKey, const char*, platform::RegistryType, const void*,
-                      std::uint32_t) override {
-    throw std::bad_alloc();
-  }
-  Long RegQueryInfoKeyA(platform::RegistryKey, std::uint32_t&) override { throw std::bad_alloc(); }
-  Long RegEnumKeyA(platform::RegistryKey, std::uint32_t, char*, std::uint32_t) override {
-    throw std::bad_alloc();
-  }
-};
-
 TEST_F(FailuresTest, WantOfMemoryLeavesNoKeyOpen) {
-  WithoutMemory poor(registry_);
+  tests::RegistryWithoutMemory poor(registry_);
   const platform::Override override(poor);
   EXPECT_THROW(settings_.GetLong(u"number", 0), std::bad_alloc);
   EXPECT_THROW(settings_.GetString(u"text", u""), std::bad_alloc);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <new>
+
 #include "tessaly/platform/Registry.h"
 
 namespace tessaly::tests {
@@ -39,6 +41,25 @@ class ForwardingRegistry : public platform::Registry {
 
  private:
   platform::Registry* real_;
+};
+
+/// A registry that wants memory in the middle of a call.
+class RegistryWithoutMemory final : public ForwardingRegistry {
+ public:
+  using ForwardingRegistry::ForwardingRegistry;
+
+  Long RegQueryValueExA(platform::RegistryKey, const char*, platform::RegistryType&, void*,
+                        std::uint32_t&) override {
+    throw std::bad_alloc();
+  }
+  Long RegSetValueExA(platform::RegistryKey, const char*, platform::RegistryType, const void*,
+                      std::uint32_t) override {
+    throw std::bad_alloc();
+  }
+  Long RegQueryInfoKeyA(platform::RegistryKey, std::uint32_t&) override { throw std::bad_alloc(); }
+  Long RegEnumKeyA(platform::RegistryKey, std::uint32_t, char*, std::uint32_t) override {
+    throw std::bad_alloc();
+  }
 };
 
 }  // namespace tessaly::tests

@@ -16,18 +16,7 @@ String keyOf(std::u16string_view path) {
   return key;
 }
 
-/// Upper case in the scripts that tests write; the real bodies know all.
-char16_t upper(char16_t c) {
-  const bool latin = (c >= u'a' && c <= u'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
-  const bool cyrillic = c >= 0x430 && c <= 0x44F;
-  return latin || cyrillic ? static_cast<char16_t>(c - 0x20) : c;
-}
-
-String upperCased(std::u16string_view text) {
-  String result(text);
-  std::transform(result.begin(), result.end(), result.begin(), upper);
-  return result;
-}
+String upperCased(std::u16string_view text) { return ownLocale().CharUpperW(text); }
 
 }  // namespace
 

@@ -33,9 +33,6 @@ Long checkValueName(std::u16string_view name) {
   return name.size() <= kLongestValueName && isSound(name) ? kSuccess : kInvalidParameter;
 }
 
-Long checkValue(const KeyValue& value) {
-  const std::size_t size = value.isText() ? value.text.size() * sizeof(char16_t) : value.bytes.size();
-  return size <= kLargestValue ? kSuccess : kNoResources;
-}
+Long checkValue(const KeyValue& value) { return value.size() <= kLargestValue ? kSuccess : kNoResources; }
 
 }  // namespace tessaly::platform

@@ -19,6 +19,10 @@ struct KeyValue {
   std::string bytes;
 
   bool isText() const { return type == kText || type == kExpandableText || type == kTexts; }
+
+  /// In bytes, as the platform counts it.
+  std::size_t size() const { return isText() ? text.size() * sizeof(char16_t) : bytes.size(); }
+
   bool operator==(const KeyValue&) const = default;
 };
 

@@ -15,10 +15,8 @@ bool isLasting(Long result) {
   return result == registry_result::kSuccess || result == registry_result::kNotFound;
 }
 
-std::size_t sizeOf(const KeyValue& value) { return value.text.size() * 2 + value.bytes.size(); }
-
 std::size_t costOf(std::string_view name, const KeyValue& value) {
-  return sizeOf(value) + name.size() + kCostOfEntry;
+  return value.size() + name.size() + kCostOfEntry;
 }
 
 }  // namespace
@@ -66,8 +64,7 @@ const ReadCopy::Value& ReadCopy::value(KeyStore& store, KeyStore::Id key, std::s
   passing_ = {};
   passing_.revision = revision;
   passing_.result = store.value(key, fromAnsi(name), passing_.value);
-  const std::size_t size = sizeOf(passing_.value);
-  if (size > kLargestKept || !isLasting(passing_.result)) return passing_;
+  if (passing_.value.size() > kLargestKept || !isLasting(passing_.result)) return passing_;
   if (found != values_.end()) keptSize_ -= costOf(name, found->second.value);
   makeRoom(costOf(name, passing_.value));
   return values_.insert_or_assign(kept(spelling), passing_).first->second;

@@ -21,7 +21,6 @@ class HiveFile {
  public:
   HiveFile(std::filesystem::path path, HiveReaders readers);
 
-  const std::filesystem::path& path() const { return path_; }
   sqlite3* database() const { return database_.get(); }
 
   bool isOpen() const { return database_ != nullptr; }

@@ -120,8 +120,7 @@ SalvagedRows salvage(std::string_view file) {
   forEachRow(file, [&](const std::vector<PageColumn>& columns) {
     hive::KeyRow key;
     hive::ValueRow value;
-    if (asKey(columns, key) && key.id != KeyStore::kRoot && ids.insert(key.id).second &&
-        places.emplace(key.parent, key.upper).second) {
+    if (asKey(columns, key) && ids.insert(key.id).second && places.emplace(key.parent, key.upper).second) {
       rows.keys.push_back(std::move(key));
     } else if (asValue(columns, value) && names.emplace(value.key, value.upper).second) {
       rows.values.push_back(std::move(value));

@@ -54,6 +54,14 @@ class HiveDamageTest : public testing::Test {
 
   static constexpr std::size_t kAll = std::size(kKeys) * kValues;
 
+  /// Changes a letter of one value, and gives the bytes of the hive.
+  std::string damageValue() const {
+    std::string damaged = sound_;
+    damaged[damaged.find("Beta holds value c")] = 'X';
+    writeBytes(file(), damaged);
+    return damaged;
+  }
+
   /// Reads and writes a hive of these bytes.
   void expectHarmless(const std::string& bytes) {
     writeBytes(file(), bytes);
@@ -143,19 +151,13 @@ TEST_F(HiveDamageTest, AnyJournalOfAnInterruptedWriteDoesNoHarm) {
 }
 
 TEST_F(HiveDamageTest, TellsWhatIsWrong) {
-  std::string damaged = sound_;
-  const std::size_t place = damaged.find("Beta holds value c");
-  ASSERT_NE(place, std::string::npos);
-  damaged[place] = 'X';
-  writeBytes(file(), damaged);
+  damageValue();
   EXPECT_EQ(resultOfGet(*open(), {u"Software", u"Beta"}, u"value c"), kCorrupt);
   EXPECT_EQ(hiveFaults(file()), std::vector<std::string>{"a value is not as it was written: value c"});
 }
 
 TEST_F(HiveDamageTest, ARepairSavesAllButTheDamagedValue) {
-  std::string damaged = sound_;
-  damaged[damaged.find("Beta holds value c")] = 'X';
-  writeBytes(file(), damaged);
+  const std::string damaged = damageValue();
   HiveRepair repair;
   ASSERT_EQ(repairHive(file(), repair), kSuccess);
   EXPECT_EQ(repair.keys, 4U);
@@ -170,9 +172,7 @@ TEST_F(HiveDamageTest, ARepairSavesAllButTheDamagedValue) {
 }
 
 TEST_F(HiveDamageTest, AnOpenHiveIsReadAnewAfterARepair) {
-  std::string damaged = sound_;
-  damaged[damaged.find("Beta holds value c")] = 'X';
-  writeBytes(file(), damaged);
+  damageValue();
   const auto hive = open();
   EXPECT_EQ(countTrue(*hive), kAll - 1);
   EXPECT_EQ(put(*hive, {u"New"}, u"v", u"text"), kCorrupt);
@@ -315,9 +315,7 @@ TEST_F(HiveDamageTest, ManyLostKeysTakeNoLongTime) {
 }
 
 TEST_F(HiveDamageTest, AHiveBehindALinkIsRepairedWhereItStands) {
-  std::string damaged = sound_;
-  damaged[damaged.find("Beta holds value c")] = 'X';
-  writeBytes(file(), damaged);
+  const std::string damaged = damageValue();
   const path link = temporary_.path() / "link.hive";
   std::filesystem::create_symlink(file(), link);
   HiveRepair repair;
