@@ -9,11 +9,12 @@ set(INSTALL_GTEST OFF CACHE INTERNAL "")
 set(BUILD_GMOCK OFF CACHE INTERNAL "")
 add_subdirectory("${TESSALY_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
-# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>]): one
+# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>] [LOCK <name>]): one
 # program for tests, which run in the project's folder and in the C locale. Where nothing else is told, LIBRARY is
-# Tessaly::core, the name is the ctest label, and a test may take two minutes.
+# Tessaly::core, the name is the ctest label, and a test may take two minutes. On Windows, where tests can't have all of
+# the system to themselves, those with the same LOCK run one at a time.
 function(tessaly_test name)
-  cmake_parse_arguments(arg "" "LIBRARY;LABEL;TIMEOUT" "SOURCES" ${ARGN})
+  cmake_parse_arguments(arg "" "LIBRARY;LABEL;TIMEOUT;LOCK" "SOURCES" ${ARGN})
   if(NOT arg_LIBRARY)
     set(arg_LIBRARY Tessaly::core)
   endif()
@@ -23,11 +24,15 @@ function(tessaly_test name)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
+  set(lock "")
+  if(arg_LOCK AND WIN32)
+    set(lock RESOURCE_LOCK ${arg_LOCK})
+  endif()
   set(target tests-${name})
   add_executable(${target} ${arg_SOURCES})
   tessaly_options(${target})
   target_link_libraries(${target} PRIVATE tests-support ${arg_LIBRARY} GTest::gtest_main)
   gtest_discover_tests(${target} TEST_PREFIX "${arg_LABEL}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
                        DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT ${arg_TIMEOUT}
-                       ENVIRONMENT LC_ALL=C.UTF-8)
+                       ENVIRONMENT LC_ALL=C.UTF-8 ${lock})
 endfunction()

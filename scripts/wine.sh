@@ -16,6 +16,15 @@ prepareWine() {
     rm -rf "$WINEPREFIX"
     wineboot -i && wineserver -w && touch "$WINEPREFIX/complete"
   fi
+  useNoGraphics
+}
+
+# Top-level windows need a display, or a driver that does without. A server that runs already would not see it.
+useNoGraphics() {
+  if [[ ! -f "$WINEPREFIX/no-graphics" ]]; then
+    wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f && stopWineServer &&
+      touch "$WINEPREFIX/no-graphics"
+  fi
 }
 
 # Without the waiting server each test would pay for a start of Wine.

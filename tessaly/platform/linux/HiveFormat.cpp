@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstring>
 
+#include "tessaly/base/Fnv.h"
 #include "tessaly/base/Text.h"
 
 namespace tessaly::platform::hive {
@@ -23,7 +24,6 @@ constexpr const char* kTables[] = {
     "data NOT NULL, sum INTEGER NOT NULL, PRIMARY KEY (key, upper)) WITHOUT ROWID",
     "CREATE UNIQUE INDEX key_id ON key (id)"};
 
-/// FNV-1a: any one changed byte changes it, and it costs little for the short rows here.
 class Sum {
  public:
   Sum& add(std::string_view bytes) {
@@ -39,11 +39,11 @@ class Sum {
 
  private:
   Sum& addBytes(std::string_view bytes) {
-    for (const char byte : bytes) value_ = (value_ ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+    value_ = fnv64(bytes, value_);
     return *this;
   }
 
-  std::uint64_t value_ = 0xCBF29CE484222325U;
+  std::uint64_t value_ = kFnv64;
 };
 
 std::int64_t pragma(sqlite3* database, const char* sql, int& code) {

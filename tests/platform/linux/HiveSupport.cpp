@@ -1,10 +1,8 @@
 #include "tests/platform/linux/HiveSupport.h"
 
-#include <grp.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -65,25 +63,10 @@ unsigned modeOf(const std::filesystem::path& file) {
   return stat(file.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
 }
 
-pid_t start(const std::function<int()>& work) {
-  const pid_t process = fork();
-  if (process == 0) _exit(work());
-  return process;
-}
-
-int endOf(pid_t process) {
-  int status = 0;
-  EXPECT_EQ(waitpid(process, &status, 0), process);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
-
 int withoutRights(const std::function<int()>& work) {
-  constexpr int failed = 99;
-  return inProcess([&] {
-    constexpr unsigned nobody = 65534;
-    const bool isRoot = geteuid() == 0;
-    if (isInMemory) unsetenv("TMPDIR");
-    if (isRoot && (setgroups(0, nullptr) != 0 || setgid(nobody) != 0 || setuid(nobody) != 0)) return failed;
+  if (!isInMemory) return asNobody(work);
+  return asNobody([&] {
+    unsetenv("TMPDIR");
     return work();
   });
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -10,6 +8,7 @@
 #include <vector>
 
 #include "tessaly/platform/keys/HiveFile.h"
+#include "tests/support/linux/Forked.h"
 
 namespace tessaly::tests {
 
@@ -31,17 +30,7 @@ std::string bytesOf(const std::filesystem::path& file);
 void writeBytes(const std::filesystem::path& file, std::string_view bytes);
 unsigned modeOf(const std::filesystem::path& file);
 
-/// Starts a process that runs the work and ends with what it gives.
-pid_t start(const std::function<int()>& work);
-
-/// How a process has ended: its exit code, or minus the signal that has killed it.
-int endOf(pid_t process);
-
-/// Runs work in a process of its own: what it gives.
-inline int inProcess(const std::function<int()>& work) { return endOf(start(work)); }
-
-/// Likewise, as a user who has no rights in what others own; of this user's own files he may only do what
-/// their modes allow.
+/// Runs work as `asNobody` does; its temporary files are where such a user may make some.
 int withoutRights(const std::function<int()>& work);
 
 /// Runs a statement of SQLite's on a file.

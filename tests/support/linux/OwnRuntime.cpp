@@ -1,0 +1,62 @@
+#include "tests/support/OwnRuntime.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cinttypes>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "tessaly/base/Fnv.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace tessaly::tests {
+namespace {
+
+/// Programs that a test has killed could not remove their blocks.
+void removeBlocksOf(const std::filesystem::path& channel) {
+  std::array<char, 64> front{};
+  std::snprintf(front.data(), front.size(), "tessaly-%u-%016" PRIx64 "-", geteuid(), fnv64(channel.string()));
+  std::error_code ignored;
+  for (const auto& block : std::filesystem::directory_iterator("/dev/shm", ignored)) {
+    if (block.path().filename().string().starts_with(front.data()))
+      std::filesystem::remove(block.path(), ignored);
+  }
+}
+
+/// A program that a test starts has this variable, and the test's folder.
+constexpr const char* kMark = "TESSALY_TESTS_HAVE_RUNTIME";
+
+class OwnRuntime {
+ public:
+  OwnRuntime() {
+    if (getenv(kMark) != nullptr) return;
+    owner_ = getpid();
+    folder_ = new TemporaryFolder;
+    setenv("XDG_RUNTIME_DIR", folder_->path().c_str(), 1);
+    setenv(kMark, "1", 1);
+  }
+  OwnRuntime(const OwnRuntime&) = delete;
+  OwnRuntime& operator=(const OwnRuntime&) = delete;
+
+  /// A child of a fork that exits leaves the folder to its parent.
+  ~OwnRuntime() {
+    if (getpid() != owner_) return;
+    removeBlocksOf(folder_->path() / "tessaly");
+    delete folder_;
+  }
+
+ private:
+  pid_t owner_ = 0;
+  TemporaryFolder* folder_ = nullptr;
+};
+
+// Made before any test runs: what the program starts shall have the same.
+const OwnRuntime runtime;
+
+}  // namespace
+
+void useOwnRuntime() {}
+
+}  // namespace tessaly::tests
