@@ -3,7 +3,9 @@
 #include "tessaly/base/Export.h"
 #include "tessaly/platform/Files.h"
 #include "tessaly/platform/Locale.h"
+#include "tessaly/platform/Messages.h"
 #include "tessaly/platform/Registry.h"
+#include "tessaly/platform/SharedMemory.h"
 #include "tessaly/platform/Xml.h"
 
 namespace tessaly::platform {
@@ -12,7 +14,9 @@ namespace tessaly::platform {
 struct Core {
   Files* files;
   Locale* locale;
+  Messages* messages;
   Registry* registry;
+  SharedMemory* sharedMemory;
   Xml* xml;
 };
 
@@ -26,7 +30,9 @@ class TESSALY_API Override {
  public:
   explicit Override(Files& body);
   explicit Override(Locale& body);
+  explicit Override(Messages& body);
   explicit Override(Registry& body);
+  explicit Override(SharedMemory& body);
   explicit Override(Xml& body);
   Override(const Override&) = delete;
   Override& operator=(const Override&) = delete;
