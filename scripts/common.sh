@@ -9,7 +9,7 @@ jobs="$(nproc)"
 shownLogLines="${shownLogLines:-30}" # how much of its log a failing step shows
 
 buildPackages=(g++ cmake ninja-build libexpat1-dev libicu-dev libsqlite3-dev)
-testPackages=("${buildPackages[@]}" googletest)
+testPackages=("${buildPackages[@]}" googletest python3)
 windowsPackages=(g++-mingw-w64-x86-64-posix wine wine64)
 fuzzPackages=("${buildPackages[@]}" clang libclang-rt-dev)
 export buildPackages testPackages windowsPackages fuzzPackages jobs
