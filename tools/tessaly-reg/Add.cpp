@@ -1,8 +1,8 @@
 #include "tessaly/platform/keys/KeyLimits.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Failure.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -46,7 +46,7 @@ int confirmNew(const KeyPlace& place, const Arguments& arguments, Context& conte
   Long result = kSuccess;
   if (!arguments.valueName || !exists(place, *arguments.valueName, result))
     return result == kSuccess ? kDone : fail(context, "can't change", arguments.key, result);
-  const std::string name = visible(shownName(*arguments.valueName));
+  const std::string name = tools::visible(shownName(*arguments.valueName));
   return confirm(context, arguments.isForced, "Value " + name + " exists, overwrite(Yes/No)? ",
                  "the value " + name + " exists already");
 }
@@ -59,7 +59,7 @@ int add(const Arguments& arguments, Context& context) {
   const auto value = typedValue(arguments.type.value_or(platform::kText), data,
                                 arguments.separator ? *arguments.separator : kDefaultSeparator, fault);
   if (!value) {
-    fail(context, "can't take the data " + inQuotes(data), fault);
+    fail(context, "can't take the data " + tools::inQuotes(data), fault);
     return kWrongUsage;
   }
   KeyPlace place;

@@ -4,9 +4,9 @@
 #include <array>
 #include <set>
 
-#include "tools/tessaly-reg/Utf8.h"
+#include "tools/support/Utf8.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -43,7 +43,7 @@ std::string lowerCased(std::string_view text) {
   return result;
 }
 
-std::string shown(std::string_view word) { return '"' + visible(word) + '"'; }
+std::string shown(std::string_view word) { return '"' + tools::visible(word) + '"'; }
 
 class Parser {
  public:
@@ -144,7 +144,7 @@ bool Parser::option(const std::string& word) {
 }
 
 void Parser::store(const std::string& option, const std::string& word) {
-  const auto text = strictUtf8(word);
+  const auto text = tools::strictUtf8(word);
   if (!text) return fail("the word behind /" + option + " is no UTF-8");
   if (option == "t") {
     arguments_.type = typeNamed(*text);
@@ -209,7 +209,7 @@ void Parser::command(const std::string& word) {
 
 void Parser::key(const std::string& word) {
   hasKey_ = true;
-  const auto text = strictUtf8(word);
+  const auto text = tools::strictUtf8(word);
   if (!text) return fail("the name of the key is no UTF-8");
   const auto named = keyNamed(*text);
   if (named) {

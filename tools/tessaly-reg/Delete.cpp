@@ -1,7 +1,7 @@
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Failure.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -35,8 +35,8 @@ int Deletion::end(Long result) {
 }
 
 int Deletion::deleteValue() {
-  const std::string name = visible(shownName(*arguments_.valueName));
-  const std::string what = "can't delete the value " + name + " of " + visible(key_.name);
+  const std::string name = tools::visible(shownName(*arguments_.valueName));
+  const std::string what = "can't delete the value " + name + " of " + tools::visible(key_.name);
   KeyValue ignored;
   const Long result =
       key_.store != nullptr ? key_.store->value(key_.id, *arguments_.valueName, ignored) : kNotFound;
@@ -58,7 +58,7 @@ Long Deletion::removeAllValues() {
 }
 
 int Deletion::deleteAllValues() {
-  const std::string name = visible(key_.name);
+  const std::string name = tools::visible(key_.name);
   const std::string question = "Delete all values under the registry key " + name + " (Yes/No)? ";
   const int code = confirm(context_, arguments_.isForced, question, "can't delete the values of " + name);
   if (code != kDone) return code;
@@ -66,7 +66,7 @@ int Deletion::deleteAllValues() {
 }
 
 int Deletion::deleteKey() {
-  const std::string name = visible(key_.name);
+  const std::string name = tools::visible(key_.name);
   const std::string what = "can't delete the key " + name;
   if (arguments_.key.path.empty() || key_.id == KeyStore::kRoot)
     return fail(context_, what, "it is always there; /va deletes its values");

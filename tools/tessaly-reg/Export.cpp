@@ -1,4 +1,5 @@
 #include "tessaly/base/Text.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Counts.h"
 #include "tools/tessaly-reg/Failure.h"
@@ -6,7 +7,6 @@
 #include "tools/tessaly-reg/RegEncoding.h"
 #include "tools/tessaly-reg/RegExport.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 using platform::registry_result::kSuccess;
 
 int write(const Arguments& arguments, Context& context, const Exported& exported) {
-  const std::string file = visible(*arguments.file);
+  const std::string file = tools::visible(*arguments.file);
   const std::string bytes = encodeRegFile(exported.text);
   const std::string fault = writeFile(*arguments.file, bytes, arguments.isForced);
   if (!fault.empty()) return fail(context, "can't write " + file, fault);
@@ -26,11 +26,11 @@ int write(const Arguments& arguments, Context& context, const Exported& exported
 }
 
 int refuse(Context& context, const Exported& exported, bool toTerminal) {
-  const std::string name = inQuotes(shownName(exported.badName));
+  const std::string name = tools::inQuotes(shownName(exported.badName));
   const std::string why = toTerminal
                               ? "the name " + name + " can't be shown as text; export to a file"
                               : "the name " + name + " holds what a .reg file can't, a NUL or a line break";
-  return fail(context, "can't export " + visible(exported.culprit), why);
+  return fail(context, "can't export " + tools::visible(exported.culprit), why);
 }
 
 }  // namespace

@@ -1,13 +1,13 @@
 #include "tools/tessaly-reg/Failure.h"
 
-#include "tools/tessaly-reg/Visible.h"
+#include "tools/support/Visible.h"
 
 namespace tessaly::reg {
 namespace {
 
 using namespace platform::registry_result;
 
-std::string fileOf(const NamedStore& named) { return visible(named.file.string()); }
+std::string fileOf(const NamedStore& named) { return tools::visible(named.file.string()); }
 
 std::string hint(const Context& context, Long result, const platform::KeyStore* store) {
   const bool isMachines = store == context.stores.machine.store.get();
@@ -72,14 +72,14 @@ int fail(Context& context, const std::string& what, const KeyName& key, Long res
   fail(context, what + ' ' + shownKey(key), result, place.store);
   if (place.store == nullptr && key.root == platform::kUsers) {
     context.errors << "HKEY_USERS shows the keys of the user who asks and no others, under "
-                   << visible(context.keys.userName()) << ".\n";
+                   << tools::visible(context.keys.userName()) << ".\n";
   }
   return kFailed;
 }
 
 std::string shownKey(const KeyName& key) {
   const String name(longName(key.root));
-  return visible(key.path.empty() ? name : name + u'\\' + key.path);
+  return tools::visible(key.path.empty() ? name : name + u'\\' + key.path);
 }
 
 Long resultOfChange(Long result) { return result == kNotFound ? kIoFailed : result; }

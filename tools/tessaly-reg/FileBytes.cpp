@@ -10,30 +10,14 @@
 #include <optional>
 #include <system_error>
 
+#include "tools/support/linux/Descriptor.h"
+
 namespace tessaly::reg {
 namespace {
 
+using tools::Descriptor;
+
 std::string lastError() { return std::generic_category().message(errno); }
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() { close(); }
-
-  int number() const { return number_; }
-  bool isOpen() const { return number_ >= 0; }
-
-  bool close() {
-    const int number = number_;
-    number_ = -1;
-    return number < 0 || ::close(number) == 0;
-  }
-
- private:
-  int number_;
-};
 
 /// Reads until the end, but no more than one byte over the limit.
 std::string readAll(int file, std::string& bytes) {

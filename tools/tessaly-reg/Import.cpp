@@ -1,12 +1,12 @@
 #include <algorithm>
 
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Counts.h"
 #include "tools/tessaly-reg/Failure.h"
 #include "tools/tessaly-reg/FileBytes.h"
 #include "tools/tessaly-reg/RegImport.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -19,7 +19,7 @@ class Import {
   Import(const Arguments& arguments, Context& context)
       : arguments_(arguments),
         context_(context),
-        name_(*arguments.file == "-" ? "standard input" : visible(*arguments.file)) {}
+        name_(*arguments.file == "-" ? "standard input" : tools::visible(*arguments.file)) {}
 
   int run();
 
@@ -75,7 +75,7 @@ int Import::checkReadable(const RegImport& import) {
 void Import::previewChange(const RegChange& change) {
   std::ostream& out = context_.out;
   out << "line " << change.line << ": ";
-  const std::string name = visible(shownName(change.name));
+  const std::string name = tools::visible(shownName(change.name));
   switch (change.kind) {
     case Kind::MakeKey:
       out << "in " << shownKey(file_.keys[change.key]);
@@ -84,8 +84,8 @@ void Import::previewChange(const RegChange& change) {
       out << "delete " << shownKey(file_.keys[change.key]) << " with all below it";
       break;
     case Kind::SetValue:
-      out << "    set " << name << "    " << visible(typeName(change.value.type)) << "    "
-          << visible(shownData(change.value));
+      out << "    set " << name << "    " << tools::visible(typeName(change.value.type)) << "    "
+          << tools::visible(shownData(change.value));
       break;
     default:
       out << "    delete " << name;

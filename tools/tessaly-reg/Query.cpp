@@ -1,9 +1,9 @@
 #include "tessaly/platform/Core.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Failure.h"
 #include "tools/tessaly-reg/Pattern.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -61,10 +61,11 @@ bool Query::matchesName(const FoundKey& key) const {
 }
 
 void Query::showKey(const FoundKey& key, const std::vector<NamedValue>& values) {
-  context_.out << '\n' << visible(key.name) << '\n';
+  context_.out << '\n' << tools::visible(key.name) << '\n';
   for (const NamedValue& value : values) {
-    context_.out << kIndent << visible(shownName(value.name)) << kIndent
-                 << visible(typeName(value.value.type)) << kIndent << visible(shownData(value.value)) << '\n';
+    context_.out << kIndent << tools::visible(shownName(value.name)) << kIndent
+                 << tools::visible(typeName(value.value.type)) << kIndent
+                 << tools::visible(shownData(value.value)) << '\n';
   }
 }
 
@@ -88,7 +89,7 @@ Long Query::showSubkeys(const FoundKey& key) {
     if (hasFilter_ && !matchesName(subkey)) continue;
     // The subkeys of a whole key are one list, found ones stand for themselves.
     if (found_++ == 0 || hasFilter_) context_.out << '\n';
-    context_.out << visible(subkey.name) << '\n';
+    context_.out << tools::visible(subkey.name) << '\n';
   }
   return kSuccess;
 }
@@ -110,14 +111,14 @@ Long Query::visit(const FoundKey& key) {
 }
 
 int Query::end(const FoundKey& key, Long result) {
-  const std::string name = visible(key.name);
+  const std::string name = tools::visible(key.name);
   if (result != kSuccess) return fail(context_, "can't read " + name, result, key.store);
   if (isSearch()) {
     context_.out << "\nEnd of search: " << found_ << (found_ == 1 ? " match" : " matches") << " found.\n";
     return found_ > 0 ? kDone : kFailed;
   }
   if (hasFilter_ && found_ == 0) {
-    const std::string value = visible(shownName(*arguments_.valueName));
+    const std::string value = tools::visible(shownName(*arguments_.valueName));
     return fail(context_, "can't read the value " + value + " of " + name, "there is no such value");
   }
   context_.out << '\n';

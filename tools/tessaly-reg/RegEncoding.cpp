@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "tessaly/platform/Core.h"
-#include "tools/tessaly-reg/Utf8.h"
+#include "tools/support/Utf8.h"
 
 namespace tessaly::reg {
 namespace {
@@ -50,17 +50,17 @@ std::optional<LineError> decodeUtf16(std::string_view bytes, bool isLowFirst, St
 }
 
 std::optional<LineError> decodeUtf8(std::string_view bytes, String& text) {
-  if (auto sound = strictUtf8(bytes)) {
+  if (auto sound = tools::strictUtf8(bytes)) {
     text = std::move(*sound);
     return std::nullopt;
   }
-  return LineError{linesOf(bytes.substr(0, firstFaultOf(bytes))),
+  return LineError{linesOf(bytes.substr(0, tools::firstFaultOf(bytes))),
                    "these bytes are no UTF-8; save the file as UTF-8, or as UTF-16 with a byte-order mark"};
 }
 
 /// The old form: in the code page of 8-bit text, or in UTF-8 where a mark says so and it is true.
 std::optional<LineError> decodeOldForm(std::string_view bytes, bool isMarked, String& text) {
-  if (isMarked && firstFaultOf(bytes) == bytes.size()) return decodeUtf8(bytes, text);
+  if (isMarked && tools::firstFaultOf(bytes) == bytes.size()) return decodeUtf8(bytes, text);
   platform::Locale& locale = *platform::core().locale;
   text = locale.MultiByteToWideChar(locale.GetACP(), bytes);
   return std::nullopt;

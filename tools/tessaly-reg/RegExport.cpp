@@ -1,6 +1,6 @@
 #include "tools/tessaly-reg/RegExport.h"
 
-#include "tools/tessaly-reg/Visible.h"
+#include "tools/support/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -30,7 +30,7 @@ class Export {
 };
 
 bool Export::mayWrite(std::u16string_view name) const {
-  return names_ == ExportNames::All || isShowable(name);
+  return names_ == ExportNames::All || tools::isShowable(name);
 }
 
 Long Export::stopAt(const FoundKey& key, std::u16string_view name) {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "tessaly/platform/keys/KeyLimits.h"
-#include "tools/tessaly-reg/Utf8.h"
-#include "tools/tessaly-reg/Visible.h"
+#include "tools/support/Utf8.h"
+#include "tools/support/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -51,7 +51,7 @@ std::string RegImport::faultOf(const RegChange& change) const {
   if (isOfKey(change)) return faultOfKey(change);
   const bool isNowhere = places_[change.key].store == nullptr && file_.keys[change.key].path.empty();
   if (isNowhere) return "HKEY_USERS itself holds no values";
-  if (!hasWholePairs(change.name)) return "the name of the value holds half a character";
+  if (!tools::hasWholePairs(change.name)) return "the name of the value holds half a character";
   if (platform::checkValueName(change.name) != kSuccess)
     return "the name of the value is over 16383 characters long";
   if (platform::checkValue(change.value) != kSuccess) return "the data is larger than 1 MiB";
@@ -63,10 +63,10 @@ std::string RegImport::faultOfKey(const RegChange& change) const {
   const bool isWhole = file_.keys[change.key].path.empty();
   if (place.store == nullptr && !isWhole) {
     return "HKEY_USERS shows the keys of the user who imports and no others, under " +
-           inQuotes(keys_.userName());
+           tools::inQuotes(keys_.userName());
   }
   if (change.kind == Kind::DeleteKey && place.names.empty()) return "this key itself can't be deleted";
-  if (!std::all_of(place.names.begin(), place.names.end(), hasWholePairs))
+  if (!std::all_of(place.names.begin(), place.names.end(), tools::hasWholePairs))
     return "a name of the key holds half a character";
   if (platform::checkPath(place.names) == kSuccess) return {};
   const bool isDeep = place.names.size() > platform::kDeepestPath;

@@ -1,8 +1,8 @@
 #include "tools/tessaly-reg/RegParser.h"
 
 #include "tessaly/platform/Core.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/RegEncoding.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -86,9 +86,9 @@ bool RegParser::openSection(std::u16string_view name, std::size_t line) {
         line,
         "expected a key under HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER, HKEY_CLASSES_ROOT, HKEY_USERS or "
         "HKEY_CURRENT_CONFIG, not " +
-            inQuotes(name));
+            tools::inQuotes(name));
   }
-  if (isDeletion && key->path.empty()) return fail(line, inQuotes(name) + " itself can't be deleted");
+  if (isDeletion && key->path.empty()) return fail(line, tools::inQuotes(name) + " itself can't be deleted");
   section_ = isDeletion ? Section::Deleted : Section::Open;
   file_.keys.push_back(std::move(*key));
   RegChange change;

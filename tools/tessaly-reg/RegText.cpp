@@ -1,9 +1,9 @@
 #include "tools/tessaly-reg/RegText.h"
 
-#include "tools/tessaly-reg/Hex.h"
+#include "tools/support/Hex.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/RegEncoding.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -16,7 +16,7 @@ constexpr std::size_t kWidthOfByte = 3;
 
 String hexPrefix(platform::RegistryType type) {
   return type == platform::kBinary ? String(u"hex:")
-                                   : u"hex(" + hexDigits(type, 1, HexLetters::Small) + u"):";
+                                   : u"hex(" + tools::hexDigits(type, 1, tools::HexLetters::Small) + u"):";
 }
 
 std::uint32_t numberOf(std::string_view bytes) {
@@ -36,10 +36,10 @@ constexpr std::u16string_view kNotInKeys(u"\0\r\n", 3);
 
 bool needsBytes(std::u16string_view text) {
   for (std::size_t tab = text.find(u'\t'); tab != std::u16string_view::npos; tab = text.find(u'\t')) {
-    if (!isShowable(text.substr(0, tab))) return true;
+    if (!tools::isShowable(text.substr(0, tab))) return true;
     text.remove_prefix(tab + 1);
   }
-  return !isShowable(text);
+  return !tools::isShowable(text);
 }
 
 RegText::RegText(std::u16string_view lineEnd) : lineEnd_(lineEnd) {
@@ -80,7 +80,7 @@ void RegText::data(const KeyValue& value) {
   if (value.type == platform::kText && !needsBytes(withoutNul(value.text))) {
     plain(withoutNul(value.text));
   } else if (value.type == platform::kNumber && value.bytes.size() == sizeof(std::uint32_t)) {
-    text_ += u"dword:" + hexDigits(numberOf(value.bytes), 8, HexLetters::Small);
+    text_ += u"dword:" + tools::hexDigits(numberOf(value.bytes), 8, tools::HexLetters::Small);
   } else {
     hex(hexPrefix(value.type), value.isText() ? bytesOf(value.text) : value.bytes);
   }
@@ -105,7 +105,7 @@ void RegText::hex(std::u16string_view prefix, std::string_view bytes) {
       lineBegin_ = text_.size();
       text_ += u"  ";
     }
-    text_ += hexDigits(static_cast<unsigned char>(bytes[i]), 2, HexLetters::Small);
+    text_ += tools::hexDigits(static_cast<unsigned char>(bytes[i]), 2, tools::HexLetters::Small);
   }
 }
 

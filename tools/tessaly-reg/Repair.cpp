@@ -3,17 +3,17 @@
 #include <system_error>
 
 #include "tessaly/platform/keys/HiveFile.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Commands.h"
 #include "tools/tessaly-reg/Counts.h"
 #include "tools/tessaly-reg/Failure.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
 
 using std::filesystem::path;
 
-std::string shown(const path& file) { return visible(file.string()); }
+std::string shown(const path& file) { return tools::visible(file.string()); }
 
 int mend(const path& file, Context& context) {
   platform::HiveRepair done;
@@ -35,7 +35,7 @@ int repairFile(const path& file, bool isPreview, Context& context) {
     context.out << shown(file) << ": nothing is wrong\n";
     return kDone;
   }
-  for (const std::string& fault : faults) context.out << shown(file) << ": " << visible(fault) << '\n';
+  for (const std::string& fault : faults) context.out << shown(file) << ": " << tools::visible(fault) << '\n';
   return isPreview ? kFailed : mend(file, context);
 }
 

@@ -5,7 +5,7 @@
 #include <charconv>
 
 #include "tessaly/base/Text.h"
-#include "tools/tessaly-reg/Hex.h"
+#include "tools/support/Hex.h"
 #include "tools/tessaly-reg/KeyName.h"
 
 namespace tessaly::reg {
@@ -39,13 +39,14 @@ String shownNumber(std::string_view bytes, bool isLowFirst) {
   std::uint64_t number = 0;
   for (std::size_t i = 0; i < bytes.size(); ++i)
     number = (number << 8U) | static_cast<unsigned char>(bytes[isLowFirst ? bytes.size() - 1 - i : i]);
-  return u"0x" + hexDigits(number, 1, HexLetters::Small);
+  return u"0x" + tools::hexDigits(number, 1, tools::HexLetters::Small);
 }
 
 String shownBytes(std::string_view bytes) {
   String result;
   result.reserve(bytes.size() * 2);
-  for (const char byte : bytes) result += hexDigits(static_cast<unsigned char>(byte), 2, HexLetters::Capital);
+  for (const char byte : bytes)
+    result += tools::hexDigits(static_cast<unsigned char>(byte), 2, tools::HexLetters::Capital);
   return result;
 }
 
@@ -112,7 +113,8 @@ bool textsValue(std::u16string_view data, std::u16string_view separator, KeyValu
 String typeName(RegistryType type) {
   const auto* const found = std::find_if(kTypeNames.begin(), kTypeNames.end(),
                                          [&](const TypeName& known) { return known.type == type; });
-  return found != kTypeNames.end() ? String(found->name) : u"0x" + hexDigits(type, 1, HexLetters::Small);
+  return found != kTypeNames.end() ? String(found->name)
+                                   : u"0x" + tools::hexDigits(type, 1, tools::HexLetters::Small);
 }
 
 std::optional<RegistryType> typeNamed(std::u16string_view text) {

@@ -1,14 +1,13 @@
 // tessaly-reg, the administrator's hand on the settings: the hives and the terminal behind the commands.
 
-#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <exception>
 #include <iostream>
 
 #include "tessaly/platform/keys/HiveFile.h"
+#include "tools/support/linux/StandardStreams.h"
 #include "tools/tessaly-reg/Run.h"
 
 namespace {
@@ -40,14 +39,6 @@ Stores openStores(const Arguments& arguments) {
   return stores;
 }
 
-/// A descriptor that the caller has closed would be given to the first file that is opened, and what is
-/// written to the terminal would go into a hive. What stands in its place can be neither read nor written.
-void fillClosedDescriptors() {
-  for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-    if (fcntl(standard, F_GETFD) < 0) open("/dev/null", standard == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-  }
-}
-
 bool isReaderGone() {
   pollfd output = {STDOUT_FILENO, POLLOUT, 0};
   return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
@@ -64,8 +55,7 @@ int checkOutput(int code) {
 
 int main(int argc, char** argv) {
   try {
-    fillClosedDescriptors();
-    std::signal(SIGPIPE, SIG_IGN);
+    tessaly::tools::prepareStandardStreams();
     std::ios::sync_with_stdio(false);
     const std::vector<std::string> words(argv + (argc > 0 ? 1 : 0), argv + argc);
     return checkOutput(tessaly::reg::run(words, {std::cout, std::cerr, ask, openStores}));

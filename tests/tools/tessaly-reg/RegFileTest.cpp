@@ -4,8 +4,8 @@
 
 #include "tests/support/Print.h"
 #include "tests/tools/tessaly-reg/Tool.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -21,16 +21,16 @@ std::string listed(std::string_view bytes) {
     result += std::to_string(error.line) + ": " + error.message + '\n';
   for (const RegChange& change : file.changes) {
     const KeyName& key = file.keys[change.key];
-    const std::string name = visible(String(longName(key.root)) + u'\\' + key.path);
+    const std::string name = tools::visible(String(longName(key.root)) + u'\\' + key.path);
     const bool isOfKey = change.kind == RegChange::Kind::MakeKey || change.kind == RegChange::Kind::DeleteKey;
     const bool isDeletion =
         change.kind == RegChange::Kind::DeleteKey || change.kind == RegChange::Kind::DeleteValue;
-    result +=
-        std::to_string(change.line) + (isDeletion ? " -" : " +") + (isOfKey ? name : visible(change.name));
+    result += std::to_string(change.line) + (isDeletion ? " -" : " +") +
+              (isOfKey ? name : tools::visible(change.name));
     if (change.kind == RegChange::Kind::SetValue) {
       const platform::KeyValue& value = change.value;
-      result += '=' + visible(typeName(value.type)) + ':' +
-                (value.isText() ? visible(value.text) : visible(shownData(value)));
+      result += '=' + tools::visible(typeName(value.type)) + ':' +
+                (value.isText() ? tools::visible(value.text) : tools::visible(shownData(value)));
     }
     result += '\n';
   }

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/Print.h"
+#include "tools/support/Visible.h"
 #include "tools/tessaly-reg/Pattern.h"
 #include "tools/tessaly-reg/ValueText.h"
-#include "tools/tessaly-reg/Visible.h"
 
 namespace tessaly::reg {
 namespace {
@@ -23,21 +23,21 @@ TEST(RegVisibleText, ShowsWhatATerminalWouldObey) {
       {u"\xDB40\xDC41 \x2010", "\\uDB40\\uDC41 \xE2\x80\x90"},
       {u"\xD83Dx\xDE00", "\\uD83Dx\\uDE00"},
       {u"", ""}};
-  for (const auto& [text, expected] : rows) EXPECT_EQ(visible(text), expected);
-  EXPECT_EQ(visible("a\x1b\xFF"), "a\\u001B\xEF\xBF\xBD");
+  for (const auto& [text, expected] : rows) EXPECT_EQ(tools::visible(text), expected);
+  EXPECT_EQ(tools::visible("a\x1b\xFF"), "a\\u001B\xEF\xBF\xBD");
 }
 
 TEST(RegVisibleText, KnowsWhatIsHidden) {
   for (const char32_t c :
        {0xAD, 0x61C, 0x200B, 0x200F, 0x2028, 0x202E, 0x2060, 0x2069, 0xFEFF, 0xE0000, 0xE007F})
-    EXPECT_TRUE(isHidden(c)) << std::uint32_t{c};
+    EXPECT_TRUE(tools::isHidden(c)) << std::uint32_t{c};
   for (const char32_t c : {0x20, 0xAC, 0xAE, 0x200A, 0x2010, 0x2027, 0x202F, 0x2070, 0x1F600, 0xE0080})
-    EXPECT_FALSE(isHidden(c)) << std::uint32_t{c};
+    EXPECT_FALSE(tools::isHidden(c)) << std::uint32_t{c};
 }
 
 TEST(RegVisibleText, IsBoundedInMessages) {
-  EXPECT_EQ(inQuotes(u"a\x1B"), "\"a\\u001B\"");
-  EXPECT_EQ(inQuotes(String(1000, u'x')), '"' + std::string(80, 'x') + "…\"");
+  EXPECT_EQ(tools::inQuotes(u"a\x1B"), "\"a\\u001B\"");
+  EXPECT_EQ(tools::inQuotes(String(1000, u'x')), '"' + std::string(80, 'x') + "…\"");
 }
 
 TEST(RegPattern, OccursAnywhereInAnyCase) {

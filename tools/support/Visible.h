@@ -7,7 +7,7 @@
 
 /// Text for a terminal. Names and data come from anybody: what could move the cursor, change colours or turn
 /// the direction of writing is shown as \uXXXX and never sent as it is.
-namespace tessaly::reg {
+namespace tessaly::tools {
 
 /// Whether a terminal may take a UTF-16 unit as an order.
 bool isOrder(char16_t unit);
@@ -28,4 +28,4 @@ std::string visible(std::string_view text);
 /// Visible text of a bounded length, in quotes, for messages.
 std::string inQuotes(std::u16string_view text);
 
-}  // namespace tessaly::reg
+}  // namespace tessaly::tools

@@ -1,9 +1,9 @@
-#include "tools/tessaly-reg/Hex.h"
+#include "tools/support/Hex.h"
 
 #include <algorithm>
 #include <string_view>
 
-namespace tessaly::reg {
+namespace tessaly::tools {
 
 String hexDigits(std::uint64_t number, std::size_t least, HexLetters letters) {
   const std::u16string_view digits = letters == HexLetters::Small ? u"0123456789abcdef" : u"0123456789ABCDEF";
@@ -13,4 +13,4 @@ String hexDigits(std::uint64_t number, std::size_t least, HexLetters letters) {
   return result;
 }
 
-}  // namespace tessaly::reg
+}  // namespace tessaly::tools

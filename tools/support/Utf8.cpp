@@ -1,8 +1,8 @@
-#include "tools/tessaly-reg/Utf8.h"
+#include "tools/support/Utf8.h"
 
 #include "tessaly/base/Unicode.h"
 
-namespace tessaly::reg {
+namespace tessaly::tools {
 
 std::optional<String> strictUtf8(std::string_view bytes) {
   String text;
@@ -34,4 +34,4 @@ std::size_t firstFaultOf(std::string_view bytes) {
   return at;
 }
 
-}  // namespace tessaly::reg
+}  // namespace tessaly::tools

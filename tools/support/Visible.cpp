@@ -1,21 +1,17 @@
-#include "tools/tessaly-reg/Visible.h"
+#include "tools/support/Visible.h"
 
 #include <algorithm>
 #include <array>
 
 #include "tessaly/base/Text.h"
 #include "tessaly/base/Unicode.h"
-#include "tools/tessaly-reg/Hex.h"
+#include "tools/support/Hex.h"
+#include "tools/support/Ranges.h"
 
-namespace tessaly::reg {
+namespace tessaly::tools {
 namespace {
 
 constexpr std::size_t kLongestQuote = 80;
-
-struct Range {
-  char32_t first;
-  char32_t last;
-};
 
 // Soft hyphen, letter mark, fillers, vowel separator, joiners and marks, line and paragraph separators,
 // directions, invisible signs, byte-order mark, annotations, tags.
@@ -41,10 +37,7 @@ std::size_t lengthOfShown(std::u16string_view text) {
 
 bool isOrder(char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F); }
 
-bool isHidden(char32_t c) {
-  return std::any_of(kHidden.begin(), kHidden.end(),
-                     [c](const Range& range) { return c >= range.first && c <= range.last; });
-}
+bool isHidden(char32_t c) { return isIn(kHidden, c); }
 
 bool isShowable(std::u16string_view text) { return lengthOfShown(text) == text.size(); }
 
@@ -66,4 +59,4 @@ std::string inQuotes(std::u16string_view text) {
   return '"' + visible(text.substr(0, kLongestQuote)) + (isLong ? "…\"" : "\"");
 }
 
-}  // namespace tessaly::reg
+}  // namespace tessaly::tools
