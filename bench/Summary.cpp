@@ -78,11 +78,7 @@ void Summary::printGoals() {
   out << '\n' << std::left << std::setw(kNameWidth) << "goal" << std::right;
   out << std::setw(kColumnWidth) << "ratio" << std::setw(kColumnWidth) << "at most" << '\n';
   for (const Goal& goal : goals_) {
-    double base = std::numeric_limits<double>::infinity();
-    for (const std::string& other : goal.others) {
-      if (const auto found = medians_.find(other); found != medians_.end())
-        base = std::min(base, found->second);
-    }
+    const double base = baseOf(goal);
     const auto row = medians_.find(goal.row);
     if (row == medians_.end() || !std::isfinite(base)) continue;
     const double ratio = row->second / base;
@@ -90,6 +86,16 @@ void Summary::printGoals() {
     out << std::setw(kColumnWidth) << ratio << std::setw(kColumnWidth) << goal.atMost;
     out << (ratio <= goal.atMost ? "   reached\n" : "   missed\n");
   }
+}
+
+double Summary::baseOf(const Goal& goal) const {
+  if (goal.others.empty()) return 1;
+  double base = std::numeric_limits<double>::infinity();
+  for (const std::string& other : goal.others) {
+    if (const auto found = medians_.find(other); found != medians_.end())
+      base = std::min(base, found->second);
+  }
+  return base;
 }
 
 }  // namespace tessaly::bench

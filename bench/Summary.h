@@ -8,8 +8,8 @@
 
 namespace tessaly::bench {
 
-/// What a ratio of two times is to keep to. Benchmarks are named in full; of several others the quickest
-/// counts.
+/// What a ratio of two times is to keep to, or without others a time in nanoseconds. Benchmarks are named in
+/// full; of several others the quickest counts.
 struct Goal {
   std::string what;
   std::string row;
@@ -40,6 +40,7 @@ class Summary : public benchmark::BenchmarkReporter {
   static Row rowOf(const std::string& name, std::vector<double> times);
   void print(const std::string& group, std::vector<Row> rows);
   void printGoals();
+  double baseOf(const Goal& goal) const;
 
   std::vector<Goal> goals_;
   std::map<std::string, std::map<std::string, std::vector<double>>> timesByGroup_;

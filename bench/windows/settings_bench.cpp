@@ -3,53 +3,18 @@
 
 #include <windows.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <functional>
 #include <string>
-#include <vector>
 
 #include "bench/SettingsPlaces.h"
+#include "bench/windows/Compare.h"
 #include "tessaly/base/Text.h"
 #include "tessaly/settings/CRegistry.h"
 
 namespace tessaly::bench {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr int kRounds = 11;
-constexpr int kCallsInRound = 2000;
 constexpr Long kUserRoot = 2;
-
-struct Contestant {
-  std::string name;
-  std::function<void()> call;
-  std::vector<double> times;
-};
-
-double nanosecondsOf(const std::function<void()>& call) {
-  const auto begin = Clock::now();
-  for (int n = 0; n < kCallsInRound; ++n) call();
-  return std::chrono::duration<double, std::nano>(Clock::now() - begin).count() / kCallsInRound;
-}
-
-/// The first one is the limit; all take turns.
-void compare(const std::string& group, std::vector<Contestant> contestants) {
-  for (int round = 0; round < kRounds; ++round) {
-    for (Contestant& contestant : contestants) contestant.times.push_back(nanosecondsOf(contestant.call));
-  }
-  std::printf("\n%-52s   median ns    least ns  of medians\n", group.c_str());
-  double limit = 0;
-  for (Contestant& contestant : contestants) {
-    std::sort(contestant.times.begin(), contestant.times.end());
-    const double median = contestant.times[contestant.times.size() / 2];
-    if (limit == 0) limit = median;
-    std::printf("  %-50s%12.1f%12.1f%12.2f\n", contestant.name.c_str(), median, contestant.times.front(),
-                median / limit);
-  }
-}
 
 CRegistry settings(std::size_t key) {
   CRegistry result;
