@@ -1,6 +1,7 @@
 #include "examples/showcase/Host.h"
 #include "examples/showcase/Sections.h"
 #include "examples/showcase/Table.h"
+#include "examples/showcase/Tracing.h"
 #include "examples/support/Print.h"
 
 namespace showcase {
@@ -27,6 +28,7 @@ void showLanguages(const Screen& screen, CResources& resources) {
   Table table({u"Number", u"Language", u"Report font", u"Grid font", u"Mail font"});
   for (const Long id : languages(resources)) {
     resources.lang(id);
+    traceStep(u"Language " + textOf(resources.lang()) + u" is in force");
     table.addRow({styled(textOf(id)), styled(resources.langName()), fontName(resources.reportFontName()),
                   gridFont(resources), fontName(resources.mailFontName())});
   }

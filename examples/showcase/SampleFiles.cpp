@@ -3,6 +3,7 @@
 #include "examples/showcase/Host.h"
 #include "examples/showcase/Sections.h"
 #include "examples/showcase/Table.h"
+#include "examples/showcase/Tracing.h"
 #include "examples/showcase/check/LoadedFile.h"
 #include "examples/support/Print.h"
 
@@ -49,6 +50,7 @@ void showSampleFiles(const Screen& screen) {
     CResources resources;
     start(resources);
     resources.LoadXMLFile(path);
+    traceFault(String(sample.file) + u": " + String(sample.fault));
     table.addRow({styled(sample.file), styled(sample.fault), listEntry(file),
                   textAfterLoading(resources, file, Cancel), textAfterLoading(resources, file, Open)});
   }

@@ -6,8 +6,10 @@
 
 #include "examples/showcase/Host.h"
 #include "examples/showcase/Sections.h"
+#include "examples/showcase/Tracing.h"
 #include "examples/showcase/check/Check.h"
 #include "examples/support/Print.h"
+#include "tessaly/trace/Trace.h"
 
 using examples::textOf;
 using showcase::Screen;
@@ -32,9 +34,12 @@ bool wantsColours() {
 }
 
 int demonstrate(const Screen& screen) {
+  tessaly::StartLogger();
+  showcase::traceStep(u"Tessaly Reports starts");
   CResources resources;
   showcase::start(resources);
   if (resources.numberOfLangs() == 0) {
+    showcase::traceFault(u"There are no language files");
     screen.line(u"No language files in " + showcase::languagesFolder() +
                 u": start the showcase in the project's folder.");
     return kFailure;
@@ -48,6 +53,7 @@ int demonstrate(const Screen& screen) {
   showValues(screen, resources);
   showStringNumbers(screen, resources);
   showSampleFiles(screen);
+  showcase::traceStep(u"Tessaly Reports ends");
   return 0;
 }
 

@@ -3,6 +3,7 @@
 #       -P run.cmake
 # SETTINGS is the folder of the settings that it is to find empty, or as IMPORTER makes them from the file IMPORT.
 file(REMOVE_RECURSE "${SETTINGS}")
+file(MAKE_DIRECTORY "${SETTINGS}")
 if(IMPORT)
   execute_process(COMMAND "${IMPORTER}" import "${IMPORT}" RESULT_VARIABLE code)
   if(NOT code EQUAL 0)
