@@ -47,7 +47,7 @@ int main() {
   platform::fake::Messages messages;
   const platform::Override memoryInForce(memory);
   const platform::Override messagesInForce(messages);
-  const MemoryLogger logger(messages, memory);
+  MemoryLogger logger(messages, memory);
 
   // The host's part: mind that SendTrace has the level behind the colours.
   tessaly::ZPLoggerClient client;
