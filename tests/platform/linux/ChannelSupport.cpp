@@ -4,15 +4,14 @@
 #include <unistd.h>
 
 #include <array>
-#include <cinttypes>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <utility>
 
-#include "tessaly/base/Fnv.h"
 #include "tests/support/OwnRuntime.h"
+#include "tests/support/linux/BlockFiles.h"
 
 namespace tessaly::tests {
 
@@ -87,10 +86,7 @@ std::filesystem::path OwnChannel::socket(WindowHandle window) const {
 }
 
 std::filesystem::path OwnChannel::block(std::string_view name) const {
-  std::array<char, 64> front{};
-  std::snprintf(front.data(), front.size(), "tessaly-%u-%016" PRIx64 "-", geteuid(),
-                fnv64(folder().string()));
-  return std::filesystem::path("/dev/shm") / std::string(front.data()).append(name);
+  return std::filesystem::path("/dev/shm") / frontOfBlocks(folder()).append(name);
 }
 
 std::intptr_t sendTo(WindowHandle window, std::intptr_t lParam) {

@@ -2,26 +2,21 @@
 
 #include <unistd.h>
 
-#include <array>
-#include <cinttypes>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 
-#include "tessaly/base/Fnv.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/linux/BlockFiles.h"
 
 namespace tessaly::tests {
 namespace {
 
 /// Programs that a test has killed could not remove their blocks.
 void removeBlocksOf(const std::filesystem::path& channel) {
-  std::array<char, 64> front{};
-  std::snprintf(front.data(), front.size(), "tessaly-%u-%016" PRIx64 "-", geteuid(), fnv64(channel.string()));
+  const std::string front = frontOfBlocks(channel);
   std::error_code ignored;
   for (const auto& block : std::filesystem::directory_iterator("/dev/shm", ignored)) {
-    if (block.path().filename().string().starts_with(front.data()))
-      std::filesystem::remove(block.path(), ignored);
+    if (block.path().filename().string().starts_with(front)) std::filesystem::remove(block.path(), ignored);
   }
 }
 
