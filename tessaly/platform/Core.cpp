@@ -1,6 +1,7 @@
 #include "tessaly/platform/Core.h"
 
 #include "tessaly/platform/Bodies.h"
+#include "tessaly/platform/InPlaceOf.h"
 
 namespace tessaly::platform {
 namespace {
@@ -15,12 +16,12 @@ Core& inForce() {
 
 const Core& core() { return inForce(); }
 
-Override::Override(Files& body) : before_(core()) { inForce().files = &body; }
-Override::Override(Locale& body) : before_(core()) { inForce().locale = &body; }
-Override::Override(Messages& body) : before_(core()) { inForce().messages = &body; }
-Override::Override(Registry& body) : before_(core()) { inForce().registry = &body; }
-Override::Override(SharedMemory& body) : before_(core()) { inForce().sharedMemory = &body; }
-Override::Override(Xml& body) : before_(core()) { inForce().xml = &body; }
-Override::~Override() { inForce() = before_; }
+Override::Override(Files& body) : restore_(inPlaceOf(inForce().files, body)) {}
+Override::Override(Locale& body) : restore_(inPlaceOf(inForce().locale, body)) {}
+Override::Override(Messages& body) : restore_(inPlaceOf(inForce().messages, body)) {}
+Override::Override(Registry& body) : restore_(inPlaceOf(inForce().registry, body)) {}
+Override::Override(SharedMemory& body) : restore_(inPlaceOf(inForce().sharedMemory, body)) {}
+Override::Override(Xml& body) : restore_(inPlaceOf(inForce().xml, body)) {}
+Override::~Override() { restore_(); }
 
 }  // namespace tessaly::platform

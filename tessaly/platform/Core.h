@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "tessaly/base/Export.h"
 #include "tessaly/platform/Files.h"
 #include "tessaly/platform/Locale.h"
@@ -9,6 +11,9 @@
 #include "tessaly/platform/Xml.h"
 
 namespace tessaly::platform {
+
+struct Drawing;
+struct Pictures;
 
 /// The platform as the library sees it: one body for each area. The bodies live as long as the program.
 struct Core {
@@ -34,12 +39,17 @@ class TESSALY_API Override {
   explicit Override(Registry& body);
   explicit Override(SharedMemory& body);
   explicit Override(Xml& body);
+
+  /// Those of `desktop()` come with Tessaly::desktop.
+  explicit Override(Drawing& body);
+  explicit Override(Pictures& body);
+
   Override(const Override&) = delete;
   Override& operator=(const Override&) = delete;
   ~Override();
 
  private:
-  Core before_;
+  std::function<void()> restore_;
 };
 
 }  // namespace tessaly::platform
