@@ -1,10 +1,11 @@
 #pragma once
 
+#include "tessaly/base/Export.h"
 #include "tessaly/base/Types.h"
 
 namespace tessaly {
 
 /// The nearest integer, ties to the even neighbour. Raises error 6 outside 32 bits and for what is no number.
-Long roundToLong(double value);
+TESSALY_API Long roundToLong(double value);
 
 }  // namespace tessaly

@@ -29,6 +29,9 @@ class TESSALY_API Variant {
 
   const Value& value() const { return value_; }
 
+  /// The same kind and the same value.
+  bool operator==(const Variant& other) const = default;
+
   /// The value as a number: a Boolean's own number, the nearest integer for a floating number, the number
   /// that a text holds. Raises error 13 where a text is no number, and error 6 outside 32 bits.
   Long toLong() const;

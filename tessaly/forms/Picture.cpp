@@ -1,0 +1,59 @@
+#include "tessaly/forms/Picture.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "tessaly/base/RuntimeError.h"
+#include "tessaly/platform/Core.h"
+#include "tessaly/platform/Desktop.h"
+
+namespace tessaly {
+namespace {
+
+constexpr std::uint32_t kCovers = 0xFF000000;
+constexpr std::uint32_t kCoversHalf = 0x80000000;
+
+/// Pixels are either seen or not where a picture is cut out by a colour, so what is hardly there goes.
+void clearFaint(std::vector<std::uint32_t>& pixels) {
+  for (std::uint32_t& pixel : pixels) pixel = pixel < kCoversHalf ? 0 : pixel;
+}
+
+bool fits(PixelSize size, std::size_t count) {
+  return size.width > 0 && size.height > 0 &&
+         count / static_cast<std::size_t>(size.width) == static_cast<std::size_t>(size.height) &&
+         count % static_cast<std::size_t>(size.width) == 0;
+}
+
+}  // namespace
+
+Picture::Picture(PixelSize size, std::vector<std::uint32_t> pixels)
+    : size_(size), pixels_(std::move(pixels)) {
+  if (!fits(size_, pixels_.size())) throw RuntimeError(RuntimeError::InvalidPicture);
+  clearFaint(pixels_);
+  isOpaque_ =
+      std::all_of(pixels_.begin(), pixels_.end(), [](std::uint32_t pixel) { return pixel >= kCovers; });
+}
+
+PictureReference LoadPicture(std::u16string_view name) {
+  if (name.empty()) return std::make_shared<const Picture>();
+  const auto bytes = platform::core().files->read(name);
+  if (!bytes) throw RuntimeError(RuntimeError::FileNotFound);
+  return pictureFromBytes(*bytes);
+}
+
+PictureReference pictureFromBytes(std::string_view bytes) {
+  auto decoded = platform::desktop().pictures->decode(bytes);
+  if (!decoded) throw RuntimeError(RuntimeError::InvalidPicture);
+  return std::make_shared<const Picture>(PixelSize{decoded->width, decoded->height},
+                                         std::move(decoded->pixels));
+}
+
+std::string pngOf(const Picture& picture) {
+  const auto pixels = picture.pixels();
+  std::string bytes = platform::desktop().pictures->encodePng(
+      {picture.size().width, picture.size().height, {pixels.begin(), pixels.end()}});
+  if (bytes.empty()) throw RuntimeError(RuntimeError::InvalidPicture);
+  return bytes;
+}
+
+}  // namespace tessaly
