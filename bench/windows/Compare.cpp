@@ -9,17 +9,18 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-double nanosecondsOf(const std::function<void()>& call) {
+double nanosecondsOf(const std::function<void()>& call, int calls) {
   const auto begin = Clock::now();
-  for (int n = 0; n < kCallsInRound; ++n) call();
-  return std::chrono::duration<double, std::nano>(Clock::now() - begin).count() / kCallsInRound;
+  for (int n = 0; n < calls; ++n) call();
+  return std::chrono::duration<double, std::nano>(Clock::now() - begin).count() / calls;
 }
 
 }  // namespace
 
-void compare(const std::string& group, std::vector<Contestant> contestants) {
+void compare(const std::string& group, std::vector<Contestant> contestants, int callsInRound) {
   for (int round = 0; round < kRounds; ++round) {
-    for (Contestant& contestant : contestants) contestant.times.push_back(nanosecondsOf(contestant.call));
+    for (Contestant& contestant : contestants)
+      contestant.times.push_back(nanosecondsOf(contestant.call, callsInRound));
   }
   std::printf("\n%-52s   median ns    least ns  of medians\n", group.c_str());
   double limit = 0;

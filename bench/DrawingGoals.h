@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "bench/Summary.h"
+
+namespace tessaly::bench {
+
+/// What drawing is to reach.
+std::vector<Goal> drawingGoals();
+
+}  // namespace tessaly::bench
