@@ -4,6 +4,8 @@
 
 #include "tessaly/base/RuntimeError.h"
 #include "tessaly/base/Text.h"
+#include "tessaly/controls/transparentBitmap.h"
+#include "tessaly/forms/headless/Form.h"
 #include "tessaly/localisation/CResources.h"
 #include "tessaly/platform/Core.h"
 #include "tessaly/platform/fake/Files.h"
@@ -20,5 +22,9 @@ int main() {
     std::printf("%s, %s, error %d\n", tessaly::toUtf8(resources.langName()).c_str(),
                 tessaly::toUtf8(resources.resWithArg(13, 3, 9)).c_str(), error.number());
   }
+  tessaly::headless::Form form;
+  const auto& button = form.add<tessaly::transparentBitmap>({0, 0, 48, 32});
+  const auto size = form.placeOf(button).picture()->size();
+  std::printf("button %d by %d\n", size.width, size.height);
   return 0;
 }
