@@ -9,6 +9,22 @@ set(INSTALL_GTEST OFF CACHE INTERNAL "")
 set(BUILD_GMOCK OFF CACHE INTERNAL "")
 add_subdirectory("${TESSALY_GOOGLETEST_SOURCE}" "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
 
+# What is built quickly is the tests' own code: under sanitizers it took most of the time. What is tested is built as
+# the preset has it.
+function(tessaly_quick_build target)
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-O0>)
+  if(NOT TARGET tests-headers)
+    file(WRITE "${CMAKE_BINARY_DIR}/tests-headers.cpp" "")
+    add_library(tests-headers OBJECT "${CMAKE_BINARY_DIR}/tests-headers.cpp")
+    tessaly_options(tests-headers)
+    target_compile_options(tests-headers PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-O0>)
+    target_link_libraries(tests-headers PRIVATE GTest::gtest)
+    target_precompile_headers(tests-headers PRIVATE <gtest/gtest.h> <functional> <map> <memory> <optional> <string>
+                              <string_view> <variant> <vector>)
+  endif()
+  target_precompile_headers(${target} REUSE_FROM tests-headers)
+endfunction()
+
 # tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>] [LOCK <name>]): one
 # program for tests, which run in the project's folder and in the C locale. Where nothing else is told, LIBRARY is
 # Tessaly::core, the name is the ctest label, and a test may take two minutes. On Windows, where tests can't have all of
@@ -32,8 +48,7 @@ function(tessaly_test name)
   add_executable(${target} ${arg_SOURCES})
   tessaly_options(${target})
   target_link_libraries(${target} PRIVATE tests-support ${arg_LIBRARY} GTest::gtest_main)
-  # Only what is tested is built as the preset has it: under sanitizers the tests' own code took most of the time.
-  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-O0>)
+  tessaly_quick_build(${target})
   gtest_discover_tests(${target} TEST_PREFIX "${arg_LABEL}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
                        DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT ${arg_TIMEOUT}
                        ENVIRONMENT LC_ALL=C.UTF-8 ${lock})
