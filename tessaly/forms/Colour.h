@@ -4,6 +4,7 @@
 
 #include "tessaly/base/Types.h"
 #include "tessaly/platform/DesktopExport.h"
+#include "tessaly/platform/Drawing.h"
 
 namespace tessaly {
 
@@ -23,10 +24,7 @@ inline constexpr auto kButtonText = static_cast<OLE_COLOR>(0x80000012);
 TESSALY_DESKTOP_API OLE_COLOR shownColour(OLE_COLOR colour, Container& container);
 
 /// A colour's three bytes as a surface's pixel has them, and the way back.
-constexpr std::uint32_t pixelOf(OLE_COLOR colour) {
-  const auto bits = static_cast<std::uint32_t>(colour);
-  return ((bits & 0xFFU) << 16) | (bits & 0xFF00U) | ((bits >> 16) & 0xFFU);
-}
+constexpr std::uint32_t pixelOf(OLE_COLOR colour) { return platform::pixelOfColour(colour); }
 constexpr OLE_COLOR colourOf(std::uint32_t pixel) {
   return static_cast<OLE_COLOR>(pixelOf(static_cast<OLE_COLOR>(pixel)));
 }

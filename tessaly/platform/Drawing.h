@@ -23,6 +23,10 @@ struct PixelArea {
 /// The most pixels of a surface.
 inline constexpr std::int64_t kMostSurfacePixels = std::int64_t{1} << 26;
 
+inline bool isSurfaceSize(Long width, Long height) {
+  return width > 0 && height > 0 && std::int64_t{width} * height <= kMostSurfacePixels;
+}
+
 /// A surface's pixels from the top left on, row by row without gaps: blue in the low byte, then green, then
 /// red; the top byte is 0, and whoever writes a pixel keeps it so. Good until the next call.
 struct PixelView {
@@ -30,6 +34,12 @@ struct PixelView {
   Long width = 0;
   Long height = 0;
 };
+
+/// A colour, with red in the low byte, as such a pixel has it; its top byte is lost.
+constexpr std::uint32_t pixelOfColour(Long colour) {
+  const auto bits = static_cast<std::uint32_t>(colour);
+  return (bits & 0xFFU) << 16U | (bits & 0xFF00U) | (bits >> 16U & 0xFFU);
+}
 
 /// Drawing on memory surfaces, by the platform's own calls. Colours have red in the low byte, then green,
 /// then blue; their top byte is not looked at. What lies outside a surface is cut off. A surface or an object

@@ -50,6 +50,19 @@ class PersistenceTest : public testing::Test {
     return errorOf([&] { stage_.place().userControl().restore(bag_); });
   }
 
+  /// Of all but the pictures.
+  void expectDefaults() const {
+    EXPECT_EQ(control_.maskColor(), 0xFF00FF);
+    EXPECT_EQ(control_.backcolor(), 0);
+    EXPECT_EQ(control_.withBorder(), 0);
+    EXPECT_EQ(control_.AutoResize(), False);
+    EXPECT_EQ(control_.enabled(), True);
+    EXPECT_EQ(control_.automaticClick(), False);
+    EXPECT_EQ(control_.automaticClickTiming(), 500);
+    EXPECT_EQ(control_.automaticClickFirstTiming(), 500);
+    EXPECT_EQ(control_.stretch(), False);
+  }
+
   RecordingStage stage_;
   transparentBitmap& control_ = stage_.add();
   RecordingBag bag_{stage_.log()};
@@ -60,15 +73,7 @@ TEST_F(PersistenceTest, ANewControlHasTheDefaults) {
   EXPECT_TRUE(control_.Picture()->isEmpty());
   ASSERT_NE(control_.disabledPicture(), nullptr);
   EXPECT_TRUE(control_.disabledPicture()->isEmpty());
-  EXPECT_EQ(control_.maskColor(), 0xFF00FF);
-  EXPECT_EQ(control_.backcolor(), 0);
-  EXPECT_EQ(control_.withBorder(), 0);
-  EXPECT_EQ(control_.AutoResize(), False);
-  EXPECT_EQ(control_.enabled(), True);
-  EXPECT_EQ(control_.automaticClick(), False);
-  EXPECT_EQ(control_.automaticClickTiming(), 500);
-  EXPECT_EQ(control_.automaticClickFirstTiming(), 500);
-  EXPECT_EQ(control_.stretch(), False);
+  expectDefaults();
 }
 
 TEST_F(PersistenceTest, ANewControlIsEnabledAndNeitherHoveredNorPressedAndRestsASecond) {
@@ -120,15 +125,7 @@ TEST_F(PersistenceTest, AnEmptyBagGivesTheDefaultsButNoPictureAtAll) {
   restore(bag_);
   EXPECT_EQ(control_.Picture(), nullptr);
   EXPECT_EQ(control_.disabledPicture(), nullptr);
-  EXPECT_EQ(control_.maskColor(), 0xFF00FF);
-  EXPECT_EQ(control_.backcolor(), 0);
-  EXPECT_EQ(control_.withBorder(), 0);
-  EXPECT_EQ(control_.AutoResize(), False);
-  EXPECT_EQ(control_.enabled(), True);
-  EXPECT_EQ(control_.automaticClick(), False);
-  EXPECT_EQ(control_.automaticClickTiming(), 500);
-  EXPECT_EQ(control_.automaticClickFirstTiming(), 500);
-  EXPECT_EQ(control_.stretch(), False);
+  expectDefaults();
 }
 
 TEST_F(PersistenceTest, WritePropertiesWritesInOrder) {

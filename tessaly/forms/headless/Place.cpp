@@ -10,13 +10,9 @@
 namespace tessaly::headless {
 namespace {
 
-constexpr Long kLongestSide = 32767;
-
 PixelSize checked(PixelSize size) {
-  const bool isSize =
-      size.width >= 0 && size.height >= 0 && size.width <= kLongestSide && size.height <= kLongestSide;
-  if (!isSize) throw RuntimeError(RuntimeError::InvalidPropertyValue);
-  return size;
+  constexpr Scale pixels(Scale::kPixels);
+  return {pixels.toSize(size.width), pixels.toSize(size.height)};
 }
 
 }  // namespace

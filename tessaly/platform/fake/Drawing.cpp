@@ -45,8 +45,7 @@ bool Drawing::isSelected(DrawingObject object) const {
 }
 
 DeviceContext Drawing::createSurface(Long width, Long height) {
-  if (fails(__func__) || width < 1 || height < 1) return 0;
-  if (std::int64_t{width} * height > kMostSurfacePixels) return 0;
+  if (fails(__func__) || !isSurfaceSize(width, height)) return 0;
   const auto count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
   surfaces_[++last_] = {width, height, std::vector<std::uint32_t>(count), kWhiteBrush};
   return last_;

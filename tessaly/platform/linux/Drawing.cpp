@@ -10,16 +10,6 @@
 namespace tessaly::platform {
 namespace {
 
-/// A colour has red in its low byte, a pixel blue.
-std::uint32_t pixelOfColour(Long colour) {
-  const auto bits = static_cast<std::uint32_t>(colour);
-  return (bits & 0xFFU) << 16U | (bits & 0xFF00U) | (bits >> 16U & 0xFFU);
-}
-
-bool isSurfaceSize(Long width, Long height) {
-  return width > 0 && height > 0 && std::int64_t{width} * height <= kMostSurfacePixels;
-}
-
 bool liesWithin(const KeyedBlit::Area& area, const MemorySurface& surface) {
   return area.x >= 0 && area.y >= 0 && std::int64_t{area.x} + area.width <= surface.width &&
          std::int64_t{area.y} + area.height <= surface.height;

@@ -118,7 +118,7 @@ bool copyApart(HDC target, const Area& to, HDC source, const Area& from, COLORRE
 class WindowsDrawing final : public Drawing {
  public:
   DeviceContext createSurface(Long width, Long height) override {
-    if (width < 1 || height < 1 || std::int64_t{width} * height > kMostSurfacePixels) return 0;
+    if (!isSurfaceSize(width, height)) return 0;
     return reinterpret_cast<DeviceContext>(makeSurface(width, height).release());
   }
 
