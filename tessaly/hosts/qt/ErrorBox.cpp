@@ -1,0 +1,27 @@
+#include "tessaly/hosts/qt/ErrorBox.h"
+
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <new>
+
+#include "tessaly/base/RuntimeError.h"
+
+namespace tessaly::qt {
+void showErrorLater(QWidget& widget, const RuntimeError& error) noexcept try {
+  static QPointer<QMessageBox> open;
+  const QString text =
+      QStringLiteral("%1 (error %2)").arg(QString::fromUtf8(error.what())).arg(error.number());
+  if (open) {
+    qWarning("%s", qPrintable(text));
+    return;
+  }
+  open = new QMessageBox(QMessageBox::Critical, QGuiApplication::applicationDisplayName(), text,
+                         QMessageBox::Ok, widget.window());
+  open->setAttribute(Qt::WA_DeleteOnClose);
+  QMetaObject::invokeMethod(open, "open", Qt::QueuedConnection);
+} catch (const std::bad_alloc&) {
+  return;
+}
+
+}  // namespace tessaly::qt

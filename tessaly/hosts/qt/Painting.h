@@ -1,0 +1,16 @@
+#pragma once
+
+class QWidget;
+
+namespace tessaly {
+class UserControl;
+}
+
+namespace tessaly::qt {
+
+/// Draws the control on its widget: the surface, the lines and labels above it, and a frame where the widget
+/// has the keyboard. On a screen with a whole number of pixels for each logical one, each pixel of the
+/// surface is a square. Error 7 where there is no memory for it.
+void paintControl(QWidget& widget, UserControl& control);
+
+}  // namespace tessaly::qt

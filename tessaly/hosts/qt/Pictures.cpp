@@ -1,0 +1,55 @@
+#include "tessaly/hosts/qt/Pictures.h"
+
+#include <QtGlobal>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "tessaly/base/RuntimeError.h"
+
+namespace tessaly::qt {
+namespace {
+
+constexpr std::uint32_t kCoversHalf = 0x80000000;
+
+std::uint32_t withoutFaint(std::uint32_t pixel) { return pixel < kCoversHalf ? 0 : pixel; }
+
+/// The nearest pixel, since a see-through colour must stay the very one that it is.
+QImage inLogicalPixels(const QImage& image) {
+  if (qFuzzyCompare(image.devicePixelRatio(), 1)) return image;
+  return image.scaled(image.deviceIndependentSize().toSize().expandedTo({1, 1}), Qt::IgnoreAspectRatio,
+                      Qt::FastTransformation);
+}
+
+}  // namespace
+
+PictureReference toPicture(const QImage& image) {
+  if (image.isNull()) return std::make_shared<const Picture>();
+  const QImage whole = inLogicalPixels(image).convertToFormat(QImage::Format_ARGB32);
+  if (whole.isNull()) throw RuntimeError(RuntimeError::OutOfMemory);
+  std::vector<std::uint32_t> pixels;
+  pixels.reserve(static_cast<std::size_t>(whole.width()) * static_cast<std::size_t>(whole.height()));
+  for (int y = 0; y < whole.height(); ++y) {
+    const auto* const row = reinterpret_cast<const QRgb*>(whole.constScanLine(y));
+    std::transform(row, row + whole.width(), std::back_inserter(pixels), withoutFaint);
+  }
+  return std::make_shared<const Picture>(PixelSize{whole.width(), whole.height()}, std::move(pixels));
+}
+
+PictureReference toPicture(const QPixmap& pixmap) { return toPicture(pixmap.toImage()); }
+
+QImage toImage(const PictureReference& picture) {
+  if (!picture || picture->isEmpty()) return {};
+  const auto [width, height] = picture->size();
+  QImage image(width, height, picture->isOpaque() ? QImage::Format_RGB32 : QImage::Format_ARGB32);
+  if (image.isNull()) throw RuntimeError(RuntimeError::OutOfMemory);
+  auto pixel = picture->pixels().begin();
+  for (int y = 0; y < height; ++y, pixel += width) {
+    std::copy_n(pixel, width, reinterpret_cast<QRgb*>(image.scanLine(y)));
+  }
+  return image;
+}
+
+QPixmap toPixmap(const PictureReference& picture) { return QPixmap::fromImage(toImage(picture)); }
+
+}  // namespace tessaly::qt

@@ -1,0 +1,150 @@
+// The container's side of a child window: what the control asks of it and has it do.
+
+#include "tessaly/hosts/win32/ChildWindow.h"
+
+#include <utility>
+
+#include "tessaly/base/Text.h"
+#include "tessaly/hosts/win32/ErrorReport.h"
+#include "tessaly/hosts/win32/Pointers.h"
+
+namespace tessaly::win32 {
+namespace {
+
+constexpr Long kLongestSide = 32767;
+constexpr std::int16_t kIconPointer = 99;
+
+/// Farther away than any screen, where Windows does not tell of the pointer.
+constexpr PixelPoint kFarAway{-1000000, -1000000};
+
+void checkSize(PixelSize size) {
+  const bool isSize =
+      size.width >= 0 && size.height >= 0 && size.width <= kLongestSide && size.height <= kLongestSide;
+  if (!isSize) throw RuntimeError(RuntimeError::InvalidPropertyValue);
+}
+
+PixelPoint pointOf(const POINT& point) { return {static_cast<Long>(point.x), static_cast<Long>(point.y)}; }
+
+/// How much wider and higher a window is than its client area.
+PixelSize frameOf(HWND window) {
+  RECT outer{};
+  RECT inner{};
+  GetWindowRect(window, &outer);
+  GetClientRect(window, &inner);
+  return {static_cast<Long>(outer.right - outer.left - inner.right),
+          static_cast<Long>(outer.bottom - outer.top - inner.bottom)};
+}
+
+}  // namespace
+
+ChildWindow::ChildWindow(const ControlKind& kind, HWND window) : kind_(&kind), window_(window) {}
+
+// The control still has its container while it goes.
+ChildWindow::~ChildWindow() {
+  control_.reset();
+  if (userControl_ != nullptr) userControl_->leave();
+}
+
+PropertyBag ChildWindow::save() {
+  const auto held = shared_from_this();
+  PropertyBag bag;
+  userControl_->save(bag);
+  return bag;
+}
+
+bool ChildWindow::isPressed() const { return keyPress_.isHeld() || ::GetCapture() == window_; }
+
+bool ChildWindow::isReachedByKeys() const { return (GetWindowLongW(window_, GWL_STYLE) & WS_TABSTOP) != 0; }
+
+// What Resize raises must not pass through the window's procedure, so it is raised here.
+void ChildWindow::setSize(PixelSize size) {
+  checkSize(size);
+  if (size == size_ || window_ == nullptr) return;
+  const auto held = shared_from_this();
+  const PixelSize before = size_;
+  const PixelSize frame = frameOf(window_);
+  const bool outermost = !std::exchange(assignsSize_, true);
+  SetWindowPos(window_, nullptr, 0, 0, size.width + frame.width, size.height + frame.height,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+  if (outermost) assignsSize_ = false;
+  if (size_ != before) userControl_->resized();
+}
+
+bool ChildWindow::isVisible() { return (GetWindowLongA(window_, GWL_STYLE) & WS_VISIBLE) != 0; }
+
+PixelPoint ChildWindow::GetCursorPos() {
+  POINT point{};
+  if (const auto key = keyPress_.pointer()) {
+    point = {key->x, key->y};
+    ClientToScreen(window_, &point);
+    return pointOf(point);
+  }
+  return ::GetCursorPos(&point) != FALSE ? pointOf(point) : kFarAway;
+}
+
+PixelPoint ChildWindow::ScreenToClient(PixelPoint point) {
+  POINT result{point.x, point.y};
+  ::ScreenToClient(window_, &result);
+  return pointOf(result);
+}
+
+// A key leaves the mouse alone.
+void ChildWindow::setCapture(bool captured) {
+  if (window_ == nullptr) return;
+  if (!captured) {
+    if (::GetCapture() == window_) ReleaseCapture();
+  } else if (!keyPress_.isHeld()) {
+    SetCapture(window_);
+  }
+}
+
+void ChildWindow::setTimer(Timer& timer, Long milliseconds) {
+  if (window_ == nullptr) return;
+  if (milliseconds > 0) {
+    timers_.start(window_, timer, milliseconds);
+  } else {
+    timers_.stop(window_, timer);
+  }
+}
+
+// The cursor that is shown goes only when another one is.
+void ChildWindow::setCursor(std::int16_t pointer, const MouseIcon& icon) {
+  pointer_ = pointer;
+  const OwnedCursor before = std::exchange(icon_, pointer == kIconPointer ? cursorOf(icon) : OwnedCursor());
+  if (window_ != nullptr && windowUnderPointer() == window_) chooseCursorAnew(window_);
+}
+
+bool ChildWindow::showCursor() const {
+  HCURSOR cursor = systemCursor(screenOfThread().MousePointer());
+  if (cursor == nullptr) cursor = pointer_ == kIconPointer ? icon_.get() : systemCursor(pointer_);
+  if (cursor != nullptr) SetCursor(cursor);
+  return cursor != nullptr;
+}
+
+void ChildWindow::setToolTip(std::u16string_view text) {
+  if (window_ != nullptr) toolTip_.set(window_, toWide(text));
+}
+
+void ChildWindow::repaint() {
+  repaintLater();
+  if (window_ != nullptr) UpdateWindow(window_);
+}
+
+// Without a window to name, Windows would have all windows painted.
+void ChildWindow::repaintLater() {
+  if (window_ != nullptr) InvalidateRect(window_, nullptr, FALSE);
+}
+
+void ChildWindow::PropertyChanged(std::u16string_view name) {
+  if (name == u"enabled") tellState();
+  const auto told = hosting_.onPropertyChanged;
+  if (told) told(name);
+}
+
+void ChildWindow::onError(const RuntimeError& error) noexcept { report(window_, error); }
+
+OLE_COLOR ChildWindow::systemColour(Long number) { return static_cast<OLE_COLOR>(GetSysColor(number)); }
+
+Screen& ChildWindow::screen() { return screenOfThread(); }
+
+}  // namespace tessaly::win32

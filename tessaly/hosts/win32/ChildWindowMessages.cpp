@@ -1,0 +1,220 @@
+// The window's side of a child window: what Windows tells it, brought to the control.
+
+#include <oleacc.h>
+#include <windowsx.h>
+
+#include "tessaly/hosts/win32/AccessibleControl.h"
+#include "tessaly/hosts/win32/ChildWindow.h"
+#include "tessaly/hosts/win32/Painting.h"
+
+namespace tessaly::win32 {
+namespace {
+
+constexpr MouseState kLeftButton = 1;
+constexpr MouseState kRightButton = 2;
+constexpr MouseState kMiddleButton = 4;
+constexpr MouseState kShift = 1;
+constexpr MouseState kControl = 2;
+constexpr MouseState kAlt = 4;
+constexpr PixelPoint kOutside{-1, -1};
+constexpr LPARAM kWasDownBefore = LPARAM{1} << 30;
+
+MouseState either(bool first, MouseState one, bool second, MouseState two, bool third, MouseState three) {
+  return static_cast<MouseState>((first ? one : 0) | (second ? two : 0) | (third ? three : 0));
+}
+
+MouseState buttonsOf(WPARAM keys) {
+  return either((keys & MK_LBUTTON) != 0, kLeftButton, (keys & MK_RBUTTON) != 0, kRightButton,
+                (keys & MK_MBUTTON) != 0, kMiddleButton);
+}
+
+MouseState shiftOf(WPARAM keys) {
+  return either((keys & MK_SHIFT) != 0, kShift, (keys & MK_CONTROL) != 0, kControl, GetKeyState(VK_MENU) < 0,
+                kAlt);
+}
+
+MouseState buttonOf(UINT message) {
+  if (message == WM_LBUTTONDOWN || message == WM_LBUTTONUP) return kLeftButton;
+  return message == WM_RBUTTONDOWN || message == WM_RBUTTONUP ? kRightButton : kMiddleButton;
+}
+
+bool isReturn(LPARAM messageOfDialog) {
+  const auto* const message = reinterpret_cast<const MSG*>(messageOfDialog);
+  return message != nullptr && message->wParam == VK_RETURN &&
+         (message->message == WM_KEYDOWN || message->message == WM_CHAR);
+}
+
+/// The drawing of a window that is to be painted, from BeginPaint to EndPaint.
+class Drawing {
+ public:
+  explicit Drawing(HWND window) : window_(window), context_(BeginPaint(window, &paint_)) {}
+  Drawing(const Drawing&) = delete;
+  Drawing& operator=(const Drawing&) = delete;
+  ~Drawing() { EndPaint(window_, &paint_); }
+
+  HDC context() const { return context_; }
+
+ private:
+  HWND window_;
+  PAINTSTRUCT paint_{};
+  HDC context_;
+};
+
+}  // namespace
+
+std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SIZE:
+      takeSize({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    case WM_WINDOWPOSCHANGED:
+      endCaptureWhereHidden(*reinterpret_cast<const WINDOWPOS*>(lParam));
+      return std::nullopt;
+    case WM_TIMER:
+      raise([&](UserControl&) { timers_.tick(window_, wParam); });
+      return 0;
+    case WM_SETCURSOR:
+      if (LOWORD(lParam) == HTCLIENT && showCursor()) return TRUE;
+      return std::nullopt;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
+      return answerOf(*this, wParam);
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+    case WM_ERASEBKGND:
+    case WM_SYSCOLORCHANGE:
+      return handleDrawing(message, wParam);
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_GETDLGCODE:
+    case BM_CLICK:
+      return handleKeys(message, wParam, lParam);
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_CAPTURECHANGED:
+      return handleFocus(message, lParam);
+    default:
+      return handleMouse(message, wParam, lParam);
+  }
+}
+
+std::optional<LRESULT> ChildWindow::handleMouse(UINT message, WPARAM keys, LPARAM place) {
+  if (message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return std::nullopt;
+  toolTip_.relay(window_, message, keys, place);
+  if (keyPress_.isHeld()) return 0;
+  const PixelPoint point{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  switch (message) {
+    case WM_MOUSEMOVE:
+      raise([&](UserControl& control) { control.mouseMove(buttonsOf(keys), shiftOf(keys), point); });
+      return 0;
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+      raise([&](UserControl& control) { control.mouseDown(buttonOf(message), shiftOf(keys), point); });
+      break;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+      raise([&](UserControl& control) { control.mouseUp(buttonOf(message), shiftOf(keys), point); });
+      break;
+    default:
+      return std::nullopt;
+  }
+  tellState();
+  return 0;
+}
+
+// Only a window with WS_TABSTOP listens to keys; BM_CLICK is what a dialog sends for the key in the window's
+// text.
+std::optional<LRESULT> ChildWindow::handleKeys(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == BM_CLICK) {
+    click();
+    return 0;
+  }
+  if (!isReachedByKeys()) return std::nullopt;
+  if (message == WM_GETDLGCODE) return DLGC_BUTTON | (isReturn(lParam) ? DLGC_WANTMESSAGE : 0);
+  if (wParam != VK_SPACE && wParam != VK_RETURN) return std::nullopt;
+  if (message == WM_KEYUP) {
+    if (wParam == VK_SPACE) releaseKey(middle());
+  } else if ((lParam & kWasDownBefore) == 0) {
+    pressKey();
+    if (wParam == VK_RETURN) releaseKey(middle());
+  }
+  return 0;
+}
+
+// A key that is released elsewhere comes to nothing, as a press does that is released outside.
+std::optional<LRESULT> ChildWindow::handleFocus(UINT message, LPARAM lParam) {
+  if (message == WM_CAPTURECHANGED) {
+    if (reinterpret_cast<HWND>(lParam) != window_) raise([](UserControl& control) { control.captureLost(); });
+    return 0;
+  }
+  if (message == WM_KILLFOCUS) releaseKey(kOutside);
+  repaintLater();
+  return 0;
+}
+
+std::optional<LRESULT> ChildWindow::handleDrawing(UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_PAINT:
+      paintWindow();
+      return 0;
+    case WM_PRINTCLIENT:
+      paintOn(reinterpret_cast<HDC>(wParam));
+      return 0;
+    case WM_SYSCOLORCHANGE:
+      repaintLater();
+      return 0;
+    default:
+      // All of the window is painted at once, its background with it.
+      return 1;
+  }
+}
+
+// Nobody can release a button on what is not there.
+void ChildWindow::endCaptureWhereHidden(const WINDOWPOS& change) {
+  if ((change.flags & SWP_HIDEWINDOW) != 0) setCapture(false);
+}
+
+// The size that the control itself assigns is brought to it by the assignment.
+void ChildWindow::takeSize(PixelSize size) {
+  if (size == size_) return;
+  size_ = size;
+  if (!assignsSize_) raise([](UserControl& control) { control.resized(); });
+}
+
+void ChildWindow::paintWindow() {
+  raise([](UserControl& control) { control.prepareToShow(); });
+  if (window_ == nullptr) return;
+  const Drawing drawing(window_);
+  paintOn(drawing.context());
+}
+
+void ChildWindow::paintOn(HDC target) {
+  raise([&](UserControl& control) {
+    paint(target, control, size_, isReachedByKeys() && GetFocus() == window_);
+  });
+}
+
+void ChildWindow::click() {
+  pressKey();
+  releaseKey(middle());
+}
+
+// The mouse's press and a key's do not mix.
+void ChildWindow::pressKey() {
+  if (::GetCapture() == window_) return;
+  keyPress_.begin(middle(), [this](const auto& event) { raise(event); });
+  tellState();
+}
+
+void ChildWindow::releaseKey(PixelPoint point) {
+  keyPress_.end(point, [this](const auto& event) { raise(event); });
+  tellState();
+}
+
+void ChildWindow::tellState() {
+  if (window_ != nullptr) NotifyWinEvent(EVENT_OBJECT_STATECHANGE, window_, OBJID_CLIENT, CHILDID_SELF);
+}
+
+}  // namespace tessaly::win32

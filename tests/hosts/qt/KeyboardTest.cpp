@@ -1,0 +1,110 @@
+// The keyboard, where the host lets it: Tab reaches the button, and keys press it.
+
+#include <QLineEdit>
+#include <QTest>
+
+#include "tests/hosts/qt/Stage.h"
+
+namespace tessaly::tests {
+namespace {
+
+class QtKeyboardTest : public ButtonOnStage {
+ protected:
+  QtKeyboardTest() { EXPECT_TRUE(QTest::qWaitForWindowActive(&stage_.window())); }
+
+  void focus() {
+    button().setFocusPolicy(Qt::TabFocus);
+    button().setFocus(Qt::TabFocusReason);
+  }
+};
+
+TEST_F(QtKeyboardTest, TabPassesItByAsLongAsTheHostDoesNotAllowIt) {
+  EXPECT_EQ(button().focusPolicy(), Qt::NoFocus);
+  QTest::keyClick(&stage_.window(), Qt::Key_Tab);
+  EXPECT_FALSE(button().hasFocus());
+}
+
+TEST_F(QtKeyboardTest, TabReachesItWhereTheHostAllowsIt) {
+  button().setFocusPolicy(Qt::TabFocus);
+  auto* const before = new QLineEdit(&stage_.window());
+  before->show();
+  before->setFocus();
+  QTest::keyClick(before, Qt::Key_Tab);
+  EXPECT_TRUE(button().hasFocus());
+}
+
+TEST_F(QtKeyboardTest, WhetherItHasTheKeyboardIsSeen) {
+  const QImage before = seenOn(button());
+  focus();
+  EXPECT_NE(seenOn(button()), before);
+  button().clearFocus();
+  EXPECT_EQ(seenOn(button()), before);
+}
+
+TEST_F(QtKeyboardTest, TheSpaceBarPressesAndReleasesAsTheMouseDoes) {
+  focus();
+  listenToTheMouse();
+  QTest::keyPress(&button(), Qt::Key_Space);
+  EXPECT_EQ(takeEvents(), (Events{"MouseMove 0 0 24,20", "OnButtonSelected", "MouseDown 1 0 24,20"}));
+  EXPECT_TRUE(button().isPressHeld());
+  tick(button(), kPoll);
+  QTest::keyRelease(&button(), Qt::Key_Space);
+  EXPECT_EQ(takeEvents(), (Events{"MouseUp 1 0 24,20", "OnButtonClick"}));
+  tick(button(), kPoll);
+  EXPECT_TRUE(timers().empty());
+}
+
+TEST_F(QtKeyboardTest, ReturnAndEnterClickAtOnce) {
+  focus();
+  QTest::keyClick(&button(), Qt::Key_Return);
+  QTest::keyClick(&button(), Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick", "OnButtonClick"}));
+}
+
+TEST_F(QtKeyboardTest, AHeldSpaceBarClicksAutomatically) {
+  button().automaticClick(true);
+  focus();
+  QTest::keyPress(&button(), Qt::Key_Space);
+  QKeyEvent again(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+  QCoreApplication::sendEvent(&button(), &again);
+  tick(button(), 500);
+  QTest::keyRelease(&button(), Qt::Key_Space);
+  EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick", "OnButtonClick"}));
+}
+
+TEST_F(QtKeyboardTest, FocusThatGoesTakesAHeldPressBack) {
+  focus();
+  QTest::keyPress(&button(), Qt::Key_Space);
+  button().clearFocus();
+  QTest::keyRelease(&button(), Qt::Key_Space);
+  EXPECT_EQ(takeEvents(), Events{"OnButtonSelected"});
+  EXPECT_FALSE(button().isPressHeld());
+}
+
+TEST_F(QtKeyboardTest, AKeyWithModifiersIsSomebodyElses) {
+  focus();
+  QTest::keyClick(&button(), Qt::Key_Space, Qt::ControlModifier);
+  QTest::keyClick(&button(), Qt::Key_A);
+  EXPECT_EQ(takeEvents(), Events{});
+}
+
+TEST_F(QtKeyboardTest, WhileTheMouseHoldsItKeysDoNothing) {
+  focus();
+  stage_.move(Stage::kInside);
+  stage_.press();
+  takeEvents();
+  QTest::keyClick(&button(), Qt::Key_Space);
+  EXPECT_EQ(takeEvents(), Events{});
+  stage_.release();
+  EXPECT_EQ(takeEvents(), Events{"OnButtonClick"});
+}
+
+TEST_F(QtKeyboardTest, DisabledItIsNotPressed) {
+  button().enabled(false);
+  focus();
+  QTest::keyClick(&button(), Qt::Key_Return);
+  EXPECT_EQ(takeEvents(), Events{});
+}
+
+}  // namespace
+}  // namespace tessaly::tests

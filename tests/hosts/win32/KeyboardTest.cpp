@@ -1,0 +1,192 @@
+// A picture button that can be reached with Tab: the focus, and keys that press it.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/hosts/win32/FormWindow.h"
+#include "tests/hosts/win32/MemoryPicture.h"
+
+namespace tessaly::tests {
+namespace {
+
+class KeyboardTest : public testing::Test {
+ protected:
+  KeyboardTest() {
+    button_.backcolor(0x808080);
+    button_.events.OnButtonClick = [this] { ++clicks_; };
+    button_.events.OnButtonSelected = [this] { ++selections_; };
+    other_.backcolor(0x808080);
+    pump();
+  }
+
+  PictureReference look() const { return shown(window_); }
+
+  /// Its colour in the middle of the upper edge, as a surface's pixel has it.
+  std::uint32_t edge() const { return look()->pixels()[20] & 0xFFFFFFU; }
+
+  static constexpr std::uint32_t kSunken = 0x626262;
+  static constexpr std::uint32_t kNone = 0x808080;
+
+  FormWindow form_;
+  transparentBitmap& other_ = form_.addButton({100, 20});
+  HWND otherWindow_ = form_.button();
+  transparentBitmap& button_ = form_.addButton({20, 20}, WS_TABSTOP);
+  HWND window_ = form_.button();
+  int clicks_ = 0;
+  int selections_ = 0;
+};
+
+TEST_F(KeyboardTest, TabReachesOnlyTheButtonThatAllowsIt) {
+  SetFocus(form_.window());
+  keyDown(VK_TAB);
+  keyUp(VK_TAB);
+  EXPECT_EQ(GetFocus(), window_);
+  keyDown(VK_TAB);
+  keyUp(VK_TAB);
+  EXPECT_EQ(GetFocus(), window_);
+}
+
+TEST_F(KeyboardTest, TheFocusIsSeen) {
+  const PictureReference without = look();
+  SetFocus(window_);
+  EXPECT_FALSE(samePixels(*look(), *without));
+  EXPECT_FALSE(samePixels(*printed(window_), *without));
+  SetFocus(form_.window());
+  EXPECT_TRUE(samePixels(*look(), *without));
+}
+
+TEST_F(KeyboardTest, AFocusThatItsHostSetsIsNotSeenWhereKeysAreOff) {
+  const PictureReference without = shown(otherWindow_);
+  SetFocus(otherWindow_);
+  EXPECT_TRUE(samePixels(*shown(otherWindow_), *without));
+}
+
+TEST_F(KeyboardTest, SpacePressesAndItsReleaseClicks) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  EXPECT_EQ(edge(), kSunken);
+  EXPECT_EQ(clicks_, 0);
+  EXPECT_EQ(GetCapture(), nullptr);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+  EXPECT_EQ(selections_, 1);
+}
+
+TEST_F(KeyboardTest, ReturnClicksOnceHoweverLongItIsHeld) {
+  SetFocus(window_);
+  keyDown(VK_RETURN);
+  EXPECT_EQ(clicks_, 1);
+  keyDown(VK_RETURN);
+  keyUp(VK_RETURN);
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+}
+
+TEST_F(KeyboardTest, TheMouseEventsTellTheMiddle) {
+  std::string told;
+  const auto note = [&](const char* name) {
+    return [&told, name](std::int16_t& button, std::int16_t&, float& x, float& y) {
+      told += std::string(name) + std::to_string(button) + ' ' + std::to_string(static_cast<int>(x)) + ',' +
+              std::to_string(static_cast<int>(y)) + ' ';
+    };
+  };
+  button_.events.MouseMove = note("move ");
+  button_.events.MouseDown = note("down ");
+  button_.events.MouseUp = note("up ");
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(told, "move 0 24,24 down 1 24,24 up 1 24,24 ");
+}
+
+TEST_F(KeyboardTest, AHeldKeyClicksAgainAndAgainWhereTheButtonDoes) {
+  button_.automaticClick(True);
+  button_.automaticClickFirstTiming(10);
+  button_.automaticClickTiming(10);
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyDown(VK_SPACE);
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_TRUE(pumpUntil([this] { return clicks_ >= 3; }));
+  keyUp(VK_SPACE);
+  const int clicks = clicks_;
+  EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+  EXPECT_EQ(clicks_, clicks);
+}
+
+TEST_F(KeyboardTest, AKeyThatIsReleasedElsewhereComesToNothing) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  SetFocus(form_.window());
+  EXPECT_EQ(edge(), kNone);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 0);
+}
+
+TEST_F(KeyboardTest, ADialogInTheClickOfTheKeysPressEndsThePress) {
+  button_.automaticClick(True);
+  button_.automaticClickFirstTiming(10);
+  button_.events.OnButtonClick = [this] {
+    ++clicks_;
+    SetTimer(form_.window(), 1, 10, [](HWND window, UINT, UINT_PTR number, DWORD) {
+      const HWND box = FindWindowW(L"#32770", L"A dialog of the tests");
+      if (box == nullptr) return;
+      KillTimer(window, number);
+      PostMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+    MessageBoxW(form_.window(), L"Done", L"A dialog of the tests", MB_OK);
+  };
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+  EXPECT_EQ(clicks_, 1);
+}
+
+TEST_F(KeyboardTest, TheWindowMayBeDestroyedInAClickByKey) {
+  button_.events.MouseDown = [this](std::int16_t&, std::int16_t&, float&, float&) { DestroyWindow(window_); };
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyUp(VK_SPACE);
+  EXPECT_FALSE(IsWindow(window_));
+  EXPECT_EQ(clicks_, 0);
+}
+
+TEST_F(KeyboardTest, OtherKeysAndAButtonThatDoesNotAllowItDoNothing) {
+  SetFocus(window_);
+  keyDown('A');
+  keyUp('A');
+  EXPECT_EQ(selections_, 0);
+  int clicks = 0;
+  other_.events.OnButtonClick = [&] { ++clicks; };
+  SetFocus(otherWindow_);
+  keyDown(VK_SPACE);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(KeyboardTest, TheLetterInItsTextClicksItInADialog) {
+  SetWindowTextW(window_, L"&Open");
+  SetFocus(form_.window());
+  MSG message{form_.window(), WM_SYSCHAR, 'o', 0x20000000, 0, {}};
+  EXPECT_TRUE(IsDialogMessageW(form_.window(), &message));
+  pump();
+  EXPECT_EQ(clicks_, 1);
+}
+
+TEST_F(KeyboardTest, TheMouseIsNotHeardWhileAKeyIsHeld) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  movePointer(window_, {5, 5});
+  press();
+  release();
+  EXPECT_EQ(clicks_, 0);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 1);
+}
+
+}  // namespace
+}  // namespace tessaly::tests
