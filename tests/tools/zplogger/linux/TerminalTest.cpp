@@ -41,7 +41,6 @@ class ZpTerminalTest : public testing::Test {
 
 TEST_F(ZpTerminalTest, TakesKeysSinglyAndPutsTheModeBack) {
   PseudoTerminal terminal(logger());
-  EXPECT_TRUE(terminal.takesLines());
   terminal.readUntil(kWaiting);
   EXPECT_FALSE(terminal.takesLines());
   EXPECT_FALSE(terminal.showsKeys());
