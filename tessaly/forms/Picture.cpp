@@ -4,14 +4,12 @@
 #include <utility>
 
 #include "tessaly/base/RuntimeError.h"
+#include "tessaly/forms/Cover.h"
 #include "tessaly/platform/Core.h"
 #include "tessaly/platform/Desktop.h"
 
 namespace tessaly {
 namespace {
-
-constexpr std::uint32_t kCovers = 0xFF000000;
-constexpr std::uint32_t kCoversHalf = 0x80000000;
 
 /// Pixels are either seen or not where a picture is cut out by a colour, so what is hardly there goes.
 void clearFaint(std::vector<std::uint32_t>& pixels) {

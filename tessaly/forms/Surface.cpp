@@ -5,13 +5,13 @@
 #include <vector>
 
 #include "tessaly/base/RuntimeError.h"
+#include "tessaly/forms/Cover.h"
 #include "tessaly/platform/Desktop.h"
 
 namespace tessaly {
 namespace {
 
 constexpr std::uint32_t kColour = 0xFFFFFF;
-constexpr std::uint32_t kCovers = 0xFF000000;
 
 /// One part of a colour over another, to the nearest.
 std::uint32_t blended(std::uint32_t over, std::uint32_t under, std::uint32_t covered) {

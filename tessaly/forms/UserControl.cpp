@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "tessaly/forms/Cover.h"
 #include "tessaly/forms/Label.h"
 #include "tessaly/forms/Line.h"
 #include "tessaly/forms/NoContainer.h"
@@ -11,7 +12,6 @@ namespace tessaly {
 namespace {
 
 constexpr Scale kOuterScale(Scale::kTwips);
-constexpr std::uint32_t kCovers = 0xFF000000;
 
 /// What both have, from the top left on. The sizes differ only where there was no memory for a new surface.
 void copyPixels(platform::PixelView from, platform::PixelView to) {
