@@ -48,7 +48,7 @@ String timeOfDay() {
 
 String numbersOf(CResources& resources) {
   String list;
-  for (const tessaly::Long id : showcase::languages(resources)) list += u" " + textOf(id);
+  for (const tessaly::Long id : showcase::languages(resources)) list.append(u" ").append(textOf(id));
   return list;
 }
 

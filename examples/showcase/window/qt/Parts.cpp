@@ -5,7 +5,6 @@
 #include <QPalette>
 #include <QStatusBar>
 #include <QStyleFactory>
-#include <QStyledItemDelegate>
 
 #include "examples/showcase/window/Window.h"
 
@@ -27,16 +26,13 @@ void fill(QWidget& widget, const QColor& colour) {
   widget.setAutoFillBackground(true);
 }
 
-/// Rows with some air between them.
-class RoomyRows : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    constexpr int air = 6;
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, air);
-  }
-};
+/// Some air between the rows and around the headings.
+constexpr const char* kListLook =
+    "QTreeView { border: 0; padding: 0 8px; background: #ffffff; }"
+    "QTreeView::item { padding: 3px 5px; }"
+    "QTreeView::item:selected { background: #d8e8f8; color: #222b36; }"
+    "QHeaderView::section { background: #ffffff; color: #5b6a7d; padding: 5px 3px; border: 0;"
+    " border-bottom: 1px solid #d3d8df; }";
 
 }  // namespace
 
@@ -89,8 +85,7 @@ QTreeWidget* makeList() {
   for (std::size_t i = 0; i < kColumns.size(); ++i) {
     list->setColumnWidth(static_cast<int>(i), kColumns[i]);
   }
-  list->setItemDelegate(new RoomyRows(list));
-  list->setFrameShape(QFrame::NoFrame);
+  list->setStyleSheet(QString::fromLatin1(kListLook));
   list->setRootIsDecorated(false);
   list->setUniformRowHeights(true);
   list->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -101,7 +96,7 @@ std::array<QLabel*, 3> addStatus(QMainWindow& window) {
   std::array<QLabel*, 3> parts{};
   for (std::size_t i = 0; i < parts.size(); ++i) {
     parts[i] = new QLabel;
-    parts[i]->setContentsMargins(kGap / 2, 0, kGap / 2, 0);
+    parts[i]->setContentsMargins(kGap / 2, 3, kGap / 2, 3);
     window.statusBar()->addWidget(parts[i], i == 0 ? 1 : 0);
   }
   window.statusBar()->setSizeGripEnabled(false);

@@ -18,7 +18,7 @@ using tessaly::qt::toQString;
 
 namespace {
 
-constexpr QSize kSize(760, 440);
+constexpr QSize kSize(780, 520);
 
 void sendKey(QWidget& widget, QEvent::Type type) {
   QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier);
@@ -121,7 +121,12 @@ void QtWindow::release(const tessaly::transparentBitmap& button) {
 
 void QtWindow::handleNext() { QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents); }
 
-tessaly::PictureReference QtWindow::picture() { return tessaly::qt::toPicture(window_.grab().toImage()); }
+tessaly::PictureReference QtWindow::picture() {
+  // The first one lays out what is then scrolled.
+  window_.grab();
+  list_->scrollToBottom();
+  return tessaly::qt::toPicture(window_.grab().toImage());
+}
 
 void QtWindow::run() {
   window_.show();
