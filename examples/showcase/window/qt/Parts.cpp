@@ -86,6 +86,7 @@ QTreeWidget* makeList() {
     list->setColumnWidth(static_cast<int>(i), kColumns[i]);
   }
   list->setStyleSheet(QString::fromLatin1(kListLook));
+  list->setAllColumnsShowFocus(true);
   list->setRootIsDecorated(false);
   list->setUniformRowHeights(true);
   list->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);

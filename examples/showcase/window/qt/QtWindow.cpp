@@ -130,6 +130,7 @@ tessaly::PictureReference QtWindow::picture() {
 
 void QtWindow::run() {
   window_.show();
+  window_.setFocus();
   QApplication::exec();
 }
 

@@ -12,7 +12,8 @@ namespace {
 
 constexpr int kColumns = 4;
 constexpr std::array<int, 3> kColumnWidths = {84, 170, 180};
-constexpr int kStatusPart = 140;
+constexpr int kRowHeight = 22;
+constexpr int kStatusPart = 170;
 constexpr int kPointsPerInch = 72;
 
 HWND makeChild(HWND parent, const wchar_t* className, DWORD style) {
@@ -57,8 +58,10 @@ HFONT fontOf(const std::wstring& name, int points) {
 HWND makeList(HWND parent) {
   const HWND list =
       makeChild(parent, WC_LISTVIEWW, WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_NOSORTHEADER);
-  constexpr DWORD look = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
-  SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, look, look);
+  SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+  // A row is as high as its picture, here an empty one; the list lets go of it.
+  SendMessageW(list, LVM_SETIMAGELIST, LVSIL_SMALL,
+               reinterpret_cast<LPARAM>(ImageList_Create(1, kRowHeight, ILC_COLOR, 0, 1)));
   return list;
 }
 

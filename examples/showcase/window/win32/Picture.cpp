@@ -15,35 +15,35 @@ using tessaly::RuntimeError;
 
 constexpr std::uint32_t kCoversWholly = 0xFF000000;
 
-/// A context that moves its origin for a while, and lets nothing be drawn outside of an area.
-class Moved {
+/// A context that is a window's own for a while: its corner is the origin, nothing is drawn outside of it,
+/// and it runs the way that the window does.
+class OwnContext {
  public:
-  Moved(HDC context, POINT corner, const RECT& inside) : context_(context), saved_(SaveDC(context)) {
-    SetViewportOrgEx(context, corner.x, corner.y, nullptr);
+  OwnContext(HDC context, HWND window, HWND top) : context_(context), saved_(SaveDC(context)) {
+    RECT inside{};
+    GetClientRect(window, &inside);
+    RECT place = inside;
+    MapWindowPoints(window, top, reinterpret_cast<POINT*>(&place), 2);
+    RECT all{};
+    GetClientRect(top, &all);
+    const bool isFromRight = (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+    SetLayout(context, isFromRight ? LAYOUT_RTL : 0);
+    SetViewportOrgEx(context, isFromRight ? all.right - place.right : place.left, place.top, nullptr);
     IntersectClipRect(context, 0, 0, inside.right, inside.bottom);
+    FillRect(context, &inside, GetSysColorBrush(COLOR_WINDOW));
   }
-  Moved(const Moved&) = delete;
-  Moved& operator=(const Moved&) = delete;
-  ~Moved() { RestoreDC(context_, saved_); }
+  OwnContext(const OwnContext&) = delete;
+  OwnContext& operator=(const OwnContext&) = delete;
+  ~OwnContext() { RestoreDC(context_, saved_); }
 
  private:
   HDC context_;
   int saved_;
 };
 
-POINT cornerOf(HWND window, HWND top) {
-  RECT area{};
-  GetClientRect(window, &area);
-  // Of a window that is laid out from the right both ends are asked, since its left is the other way round.
-  MapWindowPoints(window, top, reinterpret_cast<POINT*>(&area), 2);
-  return {area.left, area.top};
-}
-
 void print(HWND window, HWND top, HDC context) {
-  RECT inside{};
-  GetClientRect(window, &inside);
   {
-    const Moved moved(context, cornerOf(window, top), inside);
+    const OwnContext own(context, window, top);
     SendMessageW(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(context), 0);
     SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(context), PRF_CLIENT);
   }

@@ -37,7 +37,7 @@ void mirror(HWND child, bool isFromRight) {
 
 }  // namespace
 
-Win32Window::Win32Window() : font_(messageFont()), nextDistance_(kMargin) {
+Win32Window::Win32Window(int show) : font_(messageFont()), nextDistance_(kMargin) {
   const HINSTANCE program = GetModuleHandleW(nullptr);
   const INITCOMMONCONTROLSEX used{sizeof used, ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
   InitCommonControlsEx(&used);
@@ -59,6 +59,8 @@ Win32Window::Win32Window() : font_(messageFont()), nextDistance_(kMargin) {
   status_ = makeStatus(window_);
   setFont(status_, font_.get());
   layOut();
+  // Some children draw nothing in a window that is hidden, also where it is a picture that they draw.
+  ShowWindow(window_, show);
 }
 
 Win32Window::~Win32Window() {
@@ -202,8 +204,9 @@ void Win32Window::addEvent(const Event& event) {
 }
 
 void Win32Window::setStatus(const std::array<tessaly::String, 3>& parts) {
+  const WPARAM direction = isFromRight_ ? SBT_RTLREADING : 0;
   for (std::size_t i = 0; i < parts.size(); ++i) {
-    SendMessageW(status_, SB_SETTEXTW, i, reinterpret_cast<LPARAM>(toWide(parts[i]).c_str()));
+    SendMessageW(status_, SB_SETTEXTW, i | direction, reinterpret_cast<LPARAM>(toWide(parts[i]).c_str()));
   }
 }
 
@@ -243,7 +246,7 @@ std::unique_ptr<Window> openWindow(int& /*argc*/, char** /*argv*/, bool isToBeSe
   // A console that was opened for this program alone would stand beside the window.
   DWORD process = 0;
   if (isToBeSeen && GetConsoleProcessList(&process, 1) == 1) FreeConsole();
-  return std::make_unique<Win32Window>();
+  return std::make_unique<Win32Window>(isToBeSeen ? SW_HIDE : SW_SHOWNOACTIVATE);
 }
 
 }  // namespace showcase

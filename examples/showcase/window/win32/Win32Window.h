@@ -13,7 +13,8 @@ namespace showcase {
 /// The window by Windows itself.
 class Win32Window final : public Window {
  public:
-  Win32Window();
+  /// `show` is what ShowWindow takes.
+  explicit Win32Window(int show);
   Win32Window(const Win32Window&) = delete;
   Win32Window& operator=(const Win32Window&) = delete;
   ~Win32Window() override;
