@@ -9,7 +9,6 @@
 namespace showcase {
 namespace {
 
-using tessaly::Boolean;
 using tessaly::Long;
 
 constexpr Long kBorder = 1;
@@ -92,9 +91,9 @@ void ToolBar::show(const Report& report) {
   setEnabled(button(Tool::Smaller), report.canZoomOut());
   setEnabled(button(Tool::Larger), report.canZoomIn());
   for (const Tool tool : {Tool::Save, Tool::Mail, Tool::Filter}) button(tool).ClearBitmaps();
-  if (report.isChanged()) pin(Tool::Save, ToolPictures::kChanged);
-  if (report.timesSent() > 0) pin(Tool::Mail, ToolPictures::kNumber + std::min(report.timesSent(), 9) - 1);
-  if (report.isFiltered()) pin(Tool::Filter, ToolPictures::kOn);
+  if (report.isChanged()) pin(Tool::Save, ToolPictures::Changed);
+  if (report.timesSent() > 0) pin(Tool::Mail, ToolPictures::Number + std::min(report.timesSent(), 9) - 1);
+  if (report.isFiltered()) pin(Tool::Filter, ToolPictures::On);
   button(Tool::Filter).backcolor(report.isFiltered() ? kOnColour : kToolBarColour);
 }
 

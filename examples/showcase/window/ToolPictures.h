@@ -8,7 +8,7 @@ namespace showcase {
 class ToolPictures {
  public:
   /// Overlays: something is not saved yet, something is on, and a number from 1 to 9.
-  enum Overlay : tessaly::Long { kChanged = 0, kOn = 1, kNumber = 2 };
+  enum Overlay : tessaly::Long { Changed = 0, On = 1, Number = 2 };
 
   /// Raises what `LoadPicture` does.
   ToolPictures();

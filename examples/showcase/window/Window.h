@@ -49,7 +49,7 @@ struct Window {
   virtual void setStatus(const std::array<tessaly::String, 3>& parts) = 0;
 
   /// What a user does: moves the pointer onto a button, presses and releases it, or holds it down with the
-  /// keyboard, which has the focus then, until he lets go.
+  /// keyboard, which has the focus then, until he lets go; what is held already stays held.
   virtual void point(const tessaly::transparentBitmap& button) = 0;
   virtual void press(const tessaly::transparentBitmap& button) = 0;
   virtual void hold(const tessaly::transparentBitmap& button) = 0;

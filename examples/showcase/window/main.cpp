@@ -83,7 +83,7 @@ int walkAndDraw(Window& window, Reports& reports, const String& file) {
   return save(*window.picture(), file);
 }
 
-int open(CResources& resources, const String& picture, int argc, char** argv) {
+int openAndRun(CResources& resources, const String& picture, int argc, char** argv) {
   const auto window = showcase::openWindow(argc, argv, picture.empty());
   Reports reports(*window, resources, timeOfDay);
   if (!picture.empty()) return walkAndDraw(*window, reports, picture);
@@ -91,7 +91,7 @@ int open(CResources& resources, const String& picture, int argc, char** argv) {
   return 0;
 }
 
-int start(const Options& options, int argc, char** argv) {
+int runAs(const Options& options, int argc, char** argv) {
   tessaly::StartLogger();
   showcase::traceStep(u"Tessaly Reports opens its window");
   CResources resources;
@@ -99,7 +99,7 @@ int start(const Options& options, int argc, char** argv) {
   if (!chooseLanguage(resources, options)) {
     return complain(u"There is no language " + textOf(*options.language) + u", only" + numbersOf(resources));
   }
-  const int exitCode = open(resources, options.picture, argc, argv);
+  const int exitCode = openAndRun(resources, options.picture, argc, argv);
   showcase::traceStep(u"Tessaly Reports closes its window");
   return exitCode;
 }
@@ -109,7 +109,7 @@ int start(const Options& options, int argc, char** argv) {
 int main(int argc, char** argv) try {
   const Options options = showcase::optionsOf(examples::arguments(argc, argv));
   if (!options.fault.empty()) return usage(options.fault);
-  return start(options, argc, argv);
+  return runAs(options, argc, argv);
 } catch (const tessaly::RuntimeError& error) {
   return complain(u"Error " + textOf(error.number()) + u": " + tessaly::fromUtf8(error.what()) +
                   u" (start it in the project's folder)");
