@@ -11,7 +11,7 @@ namespace showcase {
 namespace {
 
 constexpr int kColumns = 4;
-constexpr std::array<int, 3> kColumnWidths = {84, 170, 180};
+constexpr std::array<int, 3> kColumnWidths = {84, 190, 180};
 constexpr int kRowHeight = 22;
 constexpr int kStatusPart = 170;
 constexpr int kPointsPerInch = 72;
