@@ -83,6 +83,10 @@ void dropDescriptors() {
 
 /// The process in between: the program is its child, whom the system takes over when it goes.
 [[noreturn]] void watchProgram(const char* path, char* const* words, const char* directory) {
+  // Where the host ignores the ends of its children, the system would not tell them here either.
+  struct sigaction told {};
+  told.sa_handler = SIG_DFL;
+  sigaction(SIGCHLD, &told, nullptr);
   const pid_t program = forkPlainly(SIGCHLD);
   if (program < 0) _exit(kTooLong);
   if (program == 0) becomeProgram(path, words, directory);
