@@ -1,10 +1,12 @@
 #pragma once
 
-#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
-#include "tessaly/platform/MessageBoxes.h"
+#include "tessaly/platform/Desktop.h"
+#include "tessaly/platform/fake/MessageBoxes.h"
+#include "tests/support/World.h"
 
 namespace tessaly::tests {
 
@@ -35,6 +37,20 @@ class BoxUser {
 
   /// Makes a window active, and gives it; it goes with the user.
   virtual platform::WindowHandle activate() = 0;
+};
+
+/// The body of the area MessageBoxes that a contract runs on, in force as long as the world lives.
+class BoxWorld {
+ public:
+  explicit BoxWorld(Body body);
+
+  /// Null where no boxes are shown.
+  BoxUser* user() { return user_.get(); }
+
+ private:
+  platform::fake::MessageBoxes fake_;
+  std::optional<platform::Override> inForce_;
+  std::unique_ptr<BoxUser> user_;
 };
 
 }  // namespace tessaly::tests

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 #include "tests/contract/HelpWorld.h"
@@ -13,23 +12,6 @@ namespace {
 using namespace platform;
 
 constexpr std::uint32_t kOnTop = kKeepSize | kKeepPosition | kNoRedraw;
-
-/// Shows what a fake of the shipped kind has kept.
-class ViewerOfFake final : public RecordingViewer {
- public:
-  explicit ViewerOfFake(fake::HtmlHelp& help) : help_(help) {}
-
-  WindowHandle window() override { return 0x1234; }
-  bool isTopMost(WindowHandle window) override {
-    return std::any_of(help_.placed().begin(), help_.placed().end(),
-                       [&](const auto& each) { return each.window == window && each.after == kTopMost; });
-  }
-  void answer(WindowHandle viewer) override { help_.answer(viewer); }
-  std::vector<HelpCall> shown() override { return help_.shown(); }
-
- private:
-  fake::HtmlHelp& help_;
-};
 
 class HelpContract : public testing::TestWithParam<Body> {
  protected:
@@ -81,14 +63,5 @@ TEST_P(HelpContract, IsSilentWhereNothingShowsHelp) {
 }
 
 }  // namespace
-
-HelpWorld::HelpWorld(Body body) {
-  if (body == Body::Own) {
-    viewer_ = RecordingViewer::make();
-  } else {
-    inForce_.emplace(fake_);
-    viewer_ = std::make_unique<ViewerOfFake>(fake_);
-  }
-}
 
 }  // namespace tessaly::tests

@@ -2,11 +2,20 @@
 
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <vector>
 
 #include "tessaly/platform/Desktop.h"
 #include "tessaly/platform/fake/HtmlHelp.h"
 #include "tests/support/World.h"
+
+namespace tessaly::platform::fake {
+
+inline void PrintTo(const HtmlHelp::Shown& call, std::ostream* out) {
+  *out << call.owner << " '" << call.file << "' " << call.command << ' ' << call.data;
+}
+
+}  // namespace tessaly::platform::fake
 
 namespace tessaly::tests {
 

@@ -2,57 +2,21 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
-
 #include "tessaly/platform/Desktop.h"
-#include "tessaly/platform/fake/MessageBoxes.h"
 #include "tests/contract/BoxUser.h"
-#include "tests/support/World.h"
 
 namespace tessaly::tests {
 namespace {
 
 using namespace platform;
 
-/// Sees of a fake's boxes what it keeps of them; which buttons they have is not to be seen.
-class UserOfFake final : public BoxUser {
- public:
-  explicit UserOfFake(fake::MessageBoxes& boxes) : boxes_(boxes) {}
-
-  void press(Long button) override { boxes_.press(button); }
-  const std::vector<ShownBox>& seen() const override {
-    seen_.clear();
-    for (const auto& box : boxes_.boxes()) seen_.push_back({box.owner, box.text, box.caption, {}, 0});
-    return seen_;
-  }
-  WindowHandle activate() override {
-    boxes_.activate(7);
-    return 7;
-  }
-
- private:
-  fake::MessageBoxes& boxes_;
-  mutable std::vector<ShownBox> seen_;
-};
-
 class MessageBoxesContract : public testing::TestWithParam<Body> {
  protected:
-  MessageBoxesContract() {
-    if (GetParam() == Body::Own) {
-      user_ = BoxUser::make();
-    } else {
-      inForce_.emplace(fake_);
-      user_ = std::make_unique<UserOfFake>(fake_);
-    }
-  }
-
   static MessageBoxes& boxes() { return *desktop().messageBoxes; }
-  BoxUser* user() { return user_.get(); }
+  BoxUser* user() { return world_.user(); }
 
  private:
-  fake::MessageBoxes fake_;
-  std::optional<Override> inForce_;
-  std::unique_ptr<BoxUser> user_;
+  BoxWorld world_{GetParam()};
 };
 
 /// A set of buttons, by its number in the type.

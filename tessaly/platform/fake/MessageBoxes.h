@@ -25,7 +25,8 @@ class TESSALY_DESKTOP_API MessageBoxes final : public platform::MessageBoxes {
   /// answered with its default button.
   void press(Long button);
 
-  /// From now on this answers the boxes; it runs while the box is there.
+  /// From now on this answers the boxes, and runs while the box is there; an empty one answers with default
+  /// buttons again.
   void answer(std::function<Long(const Box&)> user) { user_ = std::move(user); }
 
   /// From now on this window is the active one; 0 at first.
