@@ -25,12 +25,14 @@ function(tessaly_quick_build target)
   target_precompile_headers(${target} REUSE_FROM tests-headers)
 endfunction()
 
-# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>] [LOCK <name>]): one
+# tessaly_test(<name> SOURCES <file>... [LIBRARY <target>] [LABEL <area>] [TIMEOUT <seconds>] [LOCK <name>]
+# [INSTEAD_OF_WINES <library>]): one
 # program for tests, which run in the project's folder and in the C locale. Where nothing else is told, LIBRARY is
 # Tessaly::core, the name is the ctest label, and a test may take two minutes. On Windows, where tests can't have all of
 # the system to themselves, those with the same LOCK run one at a time.
+# Under Wine they may load a library of their own by the name of the one that INSTEAD_OF_WINES names.
 function(tessaly_test name)
-  cmake_parse_arguments(arg "" "LIBRARY;LABEL;TIMEOUT;LOCK" "SOURCES" ${ARGN})
+  cmake_parse_arguments(arg "" "LIBRARY;LABEL;TIMEOUT;LOCK;INSTEAD_OF_WINES" "SOURCES" ${ARGN})
   if(NOT arg_LIBRARY)
     set(arg_LIBRARY Tessaly::core)
   endif()
@@ -44,6 +46,10 @@ function(tessaly_test name)
   if(arg_LOCK AND WIN32)
     set(lock RESOURCE_LOCK ${arg_LOCK})
   endif()
+  set(wine "")
+  if(arg_INSTEAD_OF_WINES AND WIN32)
+    set(wine ENVIRONMENT_MODIFICATION WINEDLLOVERRIDES=set:${arg_INSTEAD_OF_WINES}=n,b)
+  endif()
   set(target tests-${name})
   add_executable(${target} ${arg_SOURCES})
   tessaly_options(${target})
@@ -51,5 +57,5 @@ function(tessaly_test name)
   tessaly_quick_build(${target})
   gtest_discover_tests(${target} TEST_PREFIX "${arg_LABEL}: " WORKING_DIRECTORY "${PROJECT_SOURCE_DIR}"
                        DISCOVERY_MODE PRE_TEST PROPERTIES LABELS ${arg_LABEL} TIMEOUT ${arg_TIMEOUT}
-                       ENVIRONMENT LC_ALL=C.UTF-8 ${lock})
+                       ENVIRONMENT LC_ALL=C.UTF-8 ${lock} ${wine})
 endfunction()

@@ -13,7 +13,10 @@
 namespace tessaly::platform {
 
 struct Drawing;
+struct HtmlHelp;
+struct MessageBoxes;
 struct Pictures;
+struct Shell;
 
 /// The platform as the library sees it: one body for each area. The bodies live as long as the program.
 struct Core {
@@ -28,9 +31,9 @@ struct Core {
 /// The bodies in force: the platform's own, or those that an `Override` has put in their place.
 TESSALY_API const Core& core();
 
-/// Puts another body in the place of one area, for as long as it lives; for tests. The body must outlive it.
-/// Overrides end in the reverse of their order, and none begins or ends while another thread uses the
-/// library.
+/// Puts another body in the place of one area, for as long as it lives; for tests, and for a host that brings
+/// a body. The body must outlive it. Overrides end in the reverse of their order, and none begins or ends
+/// while another thread uses the library.
 class TESSALY_API Override {
  public:
   explicit Override(Files& body);
@@ -42,7 +45,10 @@ class TESSALY_API Override {
 
   /// Those of `desktop()` come with Tessaly::desktop.
   explicit Override(Drawing& body);
+  explicit Override(HtmlHelp& body);
+  explicit Override(MessageBoxes& body);
   explicit Override(Pictures& body);
+  explicit Override(Shell& body);
 
   Override(const Override&) = delete;
   Override& operator=(const Override&) = delete;

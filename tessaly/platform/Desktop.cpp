@@ -7,7 +7,7 @@ namespace tessaly::platform {
 namespace {
 
 Desktop& inForce() {
-  static Desktop bodies{&ownDrawing(), &ownPictures()};
+  static Desktop bodies{&ownDrawing(), &ownHtmlHelp(), &ownMessageBoxes(), &ownPictures(), &ownShell()};
   return bodies;
 }
 
@@ -16,6 +16,9 @@ Desktop& inForce() {
 const Desktop& desktop() { return inForce(); }
 
 Override::Override(Drawing& body) : restore_(inPlaceOf(inForce().drawing, body)) {}
+Override::Override(HtmlHelp& body) : restore_(inPlaceOf(inForce().htmlHelp, body)) {}
+Override::Override(MessageBoxes& body) : restore_(inPlaceOf(inForce().messageBoxes, body)) {}
 Override::Override(Pictures& body) : restore_(inPlaceOf(inForce().pictures, body)) {}
+Override::Override(Shell& body) : restore_(inPlaceOf(inForce().shell, body)) {}
 
 }  // namespace tessaly::platform

@@ -2,7 +2,11 @@
 
 #include "tessaly/platform/Desktop.h"
 #include "tessaly/platform/fake/Drawing.h"
+#include "tessaly/platform/fake/HtmlHelp.h"
+#include "tessaly/platform/fake/MessageBoxes.h"
 #include "tessaly/platform/fake/Pictures.h"
+#include "tessaly/platform/fake/Shell.h"
+#include "tests/support/Errors.h"
 
 namespace tessaly::platform {
 namespace {
@@ -29,6 +33,25 @@ TEST(DesktopOverrides, PutPicturesInPlaceForAScope) {
     EXPECT_EQ(desktop().drawing, drawing);
   }
   EXPECT_EQ(desktop().pictures, own);
+}
+
+TEST(DesktopOverrides, PutHelpBoxesAndShellInPlaceForAScope) {
+  const Desktop own = desktop();
+  fake::HtmlHelp help;
+  fake::MessageBoxes boxes;
+  fake::Shell shell;
+  {
+    const Override helpInForce(help);
+    EXPECT_EQ(desktop().htmlHelp, &help);
+    const Override boxesInForce(boxes);
+    EXPECT_EQ(desktop().messageBoxes, &boxes);
+    const Override shellInForce(shell);
+    EXPECT_EQ(desktop().shell, &shell);
+    EXPECT_EQ(desktop().drawing, own.drawing);
+  }
+  EXPECT_EQ(desktop().htmlHelp, own.htmlHelp);
+  EXPECT_EQ(desktop().messageBoxes, own.messageBoxes);
+  EXPECT_EQ(desktop().shell, own.shell);
 }
 
 TEST(DesktopOverrides, NestAndEndInTheReverseOfTheirOrder) {
@@ -110,6 +133,60 @@ TEST(FakeDrawings, FailByName) {
   drawing.mend("FillRect");
   EXPECT_EQ(drawing.FillRect(surface, {0, 0, 1, 1}, brush), 1);
   EXPECT_EQ(drawing.pixels(surface).pixels[0], 0xFFFFFFU);
+}
+
+TEST(FakeHelp, RecordsWhatIsAskedAndAnswersAsTold) {
+  fake::HtmlHelp help;
+  EXPECT_EQ(help.HtmlHelpA(3, "a.chm", 15, -7), 1);
+  help.answer(0x5000);
+  EXPECT_EQ(help.HtmlHelpA(0, nullptr, 18, 0), 0x5000);
+  EXPECT_TRUE(help.SetWindowPos(0x5000, kTopMost, 1, 2, 3, 4, 11));
+  help.failSetWindowPos();
+  EXPECT_FALSE(help.SetWindowPos(1, 0, 0, 0, 0, 0, 0));
+  const std::vector<fake::HtmlHelp::Shown> shown = {{3, "a.chm", 15, -7}, {0, "", 18, 0}};
+  EXPECT_EQ(help.shown(), shown);
+  const std::vector<fake::HtmlHelp::Placed> placed = {{0x5000, -1, 1, 2, 3, 4, 11}, {1, 0, 0, 0, 0, 0, 0}};
+  EXPECT_EQ(help.placed(), placed);
+  const std::vector<std::string> calls = {"HtmlHelpA", "HtmlHelpA", "SetWindowPos", "SetWindowPos"};
+  EXPECT_EQ(help.calls(), calls);
+}
+
+TEST(FakeBoxes, ArePressedAndAnsweredByATest) {
+  fake::MessageBoxes boxes;
+  boxes.press(7);
+  EXPECT_EQ(boxes.MessageBoxW(0, u"prompt", u"title", 4), 7);
+  String seen;
+  boxes.answer([&seen](const fake::MessageBoxes::Box& box) -> Long {
+    seen = box.text;
+    return 6;
+  });
+  EXPECT_EQ(boxes.MessageBoxW(0, u"another", nullptr, 4), 6);
+  EXPECT_EQ(seen, u"another");
+  const std::vector<fake::MessageBoxes::Box> expected = {{0, u"prompt", u"title", 4},
+                                                         {0, u"another", u"", 4}};
+  EXPECT_EQ(boxes.boxes(), expected);
+  EXPECT_EQ(boxes.GetActiveWindow(), 0);
+  boxes.activate(9);
+  EXPECT_EQ(boxes.GetActiveWindow(), 9);
+  const std::vector<std::string> calls = {"MessageBoxW", "MessageBoxW", "GetActiveWindow", "GetActiveWindow"};
+  EXPECT_EQ(boxes.calls(), calls);
+}
+
+TEST(FakeShells, RecordWhatIsOpenedAndAnswerOrFailAsTold) {
+  fake::Shell shell;
+  EXPECT_EQ(shell.ShellExecuteA(5, "open", "a b", nullptr, nullptr, 1), shell_result::kSuccess);
+  shell.answer(31);
+  EXPECT_EQ(shell.ShellExecuteA(0, nullptr, nullptr, "p", "d", 0), 31);
+  std::size_t seen = 0;
+  shell.onOpen([&](const fake::Shell::Opened& /*call*/) { seen = shell.opened().size(); });
+  shell.raise(453);
+  EXPECT_EQ(tests::errorOf([&] { shell.ShellExecuteA(0, "open", "c", nullptr, nullptr, 1); }), 453);
+  EXPECT_EQ(seen, 3U);
+  using Text = std::optional<std::string>;
+  const std::vector<fake::Shell::Opened> expected = {{5, Text("open"), Text("a b"), {}, {}, 1},
+                                                     {0, {}, {}, Text("p"), Text("d"), 0},
+                                                     {0, Text("open"), Text("c"), {}, {}, 1}};
+  EXPECT_EQ(shell.opened(), expected);
 }
 
 }  // namespace
