@@ -35,12 +35,13 @@ class QtRealInputTest : public testing::Test {
     EXPECT_EQ(host_->wait(), 0);
   }
 
-  /// Starts the host with what it does, and waits until it is seen.
+  /// Starts the host with what it does, and waits until it is seen. It uses nothing of the user's session.
   void start(const Lines& ways = {}, const std::string& seen = "shows idle") {
-    host_ = std::make_unique<Process>(
-        "tests-qt-host", ways,
-        ProcessOptions{
-            {display().variable(), {"QT_QPA_PLATFORM", "xcb"}, {"QT_LOGGING_RULES", "qt.qpa.*=false"}}});
+    const ProcessOptions options{{display().variable(),
+                                  {"QT_QPA_PLATFORM", "xcb"},
+                                  {"QT_LOGGING_RULES", "qt.qpa.*=false"},
+                                  {"DBUS_SESSION_BUS_ADDRESS", "disabled:"}}};
+    host_ = std::make_unique<Process>("tests-qt-host", ways, options);
     waitFor(seen);
   }
 
