@@ -140,9 +140,8 @@ std::vector<SitemapEntry> titledPages(const TopicTables& tables, Long codePage) 
     const std::string title = textAt(ByteView(tables.strings), topics.number(at + 4));
     const std::string page = textAt(ByteView(tables.urlStrings), urls.number(url + 8) + kBeforeUrl);
     taken += title.size() + page.size();
-    if (!title.empty() && !page.empty()) {
-      pages.push_back({helpText(title, codePage), helpText(page, codePage), 0});
-    }
+    SitemapEntry entry{helpText(title, codePage), helpText(page, codePage), 0};
+    if (!entry.title.empty() && !entry.page.empty()) pages.push_back(std::move(entry));
   }
   return pages;
 }
