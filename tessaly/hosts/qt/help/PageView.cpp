@@ -12,7 +12,7 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr int kMargin = 16;
+constexpr int kMargin = 20;
 
 /// Pages are written for paper: their own colours tell nothing of a dark background.
 QPalette paper(QPalette palette) {
@@ -67,6 +67,9 @@ PageView::PageView(HelpShelf& shelf, QWidget* parent) : QTextBrowser(parent), sh
   setOpenLinks(false);
   setAccessibleName(tr("Page"));
   document()->setDocumentMargin(kMargin);
+  // What pages leave open, as it reads well.
+  document()->setDefaultStyleSheet(
+      QStringLiteral("p, li, dd, td { line-height: 115%; } li { margin-bottom: 4px; }"));
   connect(this, &QTextBrowser::anchorClicked, this, &PageView::follow);
   connect(this, &QTextBrowser::sourceChanged, this, &PageView::turnToReading);
 }
