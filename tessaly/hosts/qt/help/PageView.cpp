@@ -48,9 +48,9 @@ bool isPicture(const QString& name) {
 }
 
 bool isOutside(const QString& scheme) {
-  static const std::array<QLatin1String, 4> kOutside{QLatin1String("http"), QLatin1String("https"),
-                                                     QLatin1String("mailto"), QLatin1String("ftp")};
-  return std::find(kOutside.begin(), kOutside.end(), scheme) != kOutside.end();
+  static const std::array<QLatin1String, 4> kKnown{QLatin1String("http"), QLatin1String("https"),
+                                                   QLatin1String("mailto"), QLatin1String("ftp")};
+  return std::find(kKnown.begin(), kKnown.end(), scheme) != kKnown.end();
 }
 
 /// A relative one comes as an address of the file that it stands in.
