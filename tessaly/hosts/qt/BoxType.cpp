@@ -6,9 +6,9 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr std::uint32_t kButtons = 0xF;
-constexpr std::uint32_t kIcon = 0xF0;
-constexpr std::uint32_t kDefault = 0xF00;
+constexpr std::uint32_t kButtonBits = 0xF;
+constexpr std::uint32_t kIconBits = 0xF0;
+constexpr std::uint32_t kDefaultBits = 0xF00;
 constexpr std::uint32_t kSystemModal = 0x1000;
 constexpr std::uint32_t kTaskModal = 0x2000;
 constexpr std::uint32_t kHelp = 0x4000;
@@ -28,7 +28,7 @@ constexpr BoxButton kTryAgain{10, QMessageBox::NoButton, "&Try Again"};
 constexpr BoxButton kContinue{11, QMessageBox::NoButton, "&Continue"};
 
 std::vector<BoxButton> buttonsOf(std::uint32_t type) {
-  switch (type & kButtons) {
+  switch (type & kButtonBits) {
     case 0:
       return {kOk};
     case 1:
@@ -49,7 +49,7 @@ std::vector<BoxButton> buttonsOf(std::uint32_t type) {
 }
 
 QMessageBox::Icon iconOf(std::uint32_t type) {
-  switch (type & kIcon) {
+  switch (type & kIconBits) {
     case 0x10:
       return QMessageBox::Critical;
     case 0x20:
@@ -81,7 +81,7 @@ std::optional<BoxType> boxType(Long type) {
   box.escape = escapeOf(box.buttons);
   box.icon = iconOf(bits);
   box.hasHelp = has(kHelp);
-  const std::size_t wanted = (bits & kDefault) >> 8U;
+  const std::size_t wanted = (bits & kDefaultBits) >> 8U;
   box.defaultButton = wanted < box.buttons.size() + (box.hasHelp ? 1 : 0) ? wanted : 0;
   box.isOnTop = has(kSystemModal) || has(kTopMost);
   box.blocksAll = has(kSystemModal) || has(kTaskModal);

@@ -18,8 +18,21 @@
 #include "tessaly/hosts/qt/Dialogs.h"
 #include "tessaly/platform/Desktop.h"
 #include "tests/hosts/qt/Stage.h"
+#include "tests/hosts/qt/WithoutApplication.h"
 
 namespace tessaly::tests {
+
+std::intptr_t answeredWithoutApplication = -1;
+
+void askWithoutApplication() {
+  const qt::Dialogs dialogs;
+  const platform::Desktop& desktop = platform::desktop();
+  const bool isPlaced = desktop.htmlHelp->SetWindowPos(1, platform::kTopMost, 0, 0, 0, 0, 11);
+  answeredWithoutApplication = desktop.htmlHelp->HtmlHelpA(0, "a.chm", 0, 0) |
+                               desktop.messageBoxes->MessageBoxW(0, u"a", u"b", 0) |
+                               desktop.messageBoxes->GetActiveWindow() | (isPlaced ? 1 : 0);
+}
+
 namespace {
 
 class QtBoxesTest : public testing::Test {
@@ -31,7 +44,7 @@ class QtBoxesTest : public testing::Test {
   /// Shows a box; its loop lets the look answer it.
   Long show(Long type, const Look& look, const String& text = u"Text", const String& caption = u"Caption",
             platform::WindowHandle owner = 0) {
-    QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, qApp, [&] {
       ASSERT_NE(openBox(), nullptr);
       look(*openBox());
     });
@@ -171,13 +184,13 @@ TEST_F(QtBoxesTest, TextsStandAsTheyAre) {
 }
 
 TEST_F(QtBoxesTest, AnEmptyPromptIsAnEmptyBoxAndNullIsEmpty) {
-  QTimer::singleShot(0, [] { press(*openBox(), "OK"); });
+  QTimer::singleShot(0, qApp, [] { press(*openBox(), "OK"); });
   EXPECT_EQ(platform::desktop().messageBoxes->MessageBoxW(0, nullptr, nullptr, 0), 1);
 }
 
 TEST_F(QtBoxesTest, AVeryLongPromptLeavesTheButtonsOnTheScreen) {
   String words;
-  for (int i = 0; i < 6000; ++i) words += u"word ";
+  for (int i = 0; i < 3000; ++i) words += u"word ";
   for (const String& text : {words, String(30'000, u'x'), String(3000, u'\n')}) {
     const Long result = show(
         0,
@@ -289,6 +302,8 @@ TEST(QtDialogsTest, WithThemGoneThePlatformsOwnAreBack) {
   EXPECT_EQ(platform::desktop().messageBoxes->MessageBoxW(0, u"a", u"b", 0), 0);
   EXPECT_EQ(platform::desktop().htmlHelp->HtmlHelpA(0, "a.chm", 0, 0), 0);
 }
+
+TEST(QtDialogsTest, WithoutAnApplicationNothingIsShown) { EXPECT_EQ(answeredWithoutApplication, 0); }
 
 }  // namespace
 }  // namespace tessaly::tests

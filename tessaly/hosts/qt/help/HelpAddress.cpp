@@ -6,7 +6,6 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr auto kNone = std::u16string_view::npos;
 constexpr std::array<std::u16string_view, 4> kSchemes{u"mk:@MSITStore:", u"ms-its:", u"ms-itss:", u"its:"};
 constexpr std::u16string_view kEnding = u".chm";
 
@@ -28,11 +27,11 @@ std::u16string_view withoutScheme(std::u16string_view text) {
 
 /// A folder and a topic may have colons too, so those behind the usual ending of a file count first.
 std::size_t endOfFile(std::u16string_view text) {
-  for (std::size_t at = text.find(u"::"); at != kNone; at = text.find(u"::", at + 1)) {
+  for (std::size_t at = text.find(u"::"); at != String::npos; at = text.find(u"::", at + 1)) {
     if (at >= kEnding.size() && startsWith(text.substr(at - kEnding.size()), kEnding)) return at;
   }
   const std::size_t atRoot = text.find(u"::/");
-  return atRoot != kNone ? atRoot : text.find(u"::");
+  return atRoot != String::npos ? atRoot : text.find(u"::");
 }
 
 }  // namespace
@@ -40,12 +39,12 @@ std::size_t endOfFile(std::u16string_view text) {
 HelpAddress helpAddress(std::u16string_view text) {
   const std::u16string_view bare = withoutScheme(text);
   const std::size_t end = endOfFile(bare);
-  if (end != kNone) return {String(bare.substr(0, end)), String(bare.substr(end + 2))};
+  if (end != String::npos) return {String(bare.substr(0, end)), String(bare.substr(end + 2))};
   return {String(bare.substr(0, bare.find(u'>'))), {}};
 }
 
 bool namesArchive(std::u16string_view text) {
-  return withoutScheme(text).size() != text.size() || endOfFile(text) != kNone;
+  return withoutScheme(text).size() != text.size() || endOfFile(text) != String::npos;
 }
 
 }  // namespace tessaly::qt

@@ -24,6 +24,7 @@ bool endsWith(std::u16string_view name, std::u16string_view ending) {
 
 void sortByTitle(std::vector<SitemapEntry>& entries) {
   std::vector<std::pair<String, SitemapEntry>> keyed;
+  keyed.reserve(entries.size());
   for (SitemapEntry& entry : entries) {
     keyed.emplace_back(platform::core().locale->CharUpperW(entry.title), std::move(entry));
   }

@@ -55,6 +55,7 @@ void HelpWindow::showBook(int number) {
   const QString title = book != nullptr ? toQString(book->title()).simplified() : QString();
   const QString name = QFileInfo(toQString(shelf_.path(number))).fileName();
   setWindowTitle(title.isEmpty() ? name : title);
+  home_->setEnabled(book != nullptr && book->home());
   fillSidePane();
 }
 
@@ -71,6 +72,7 @@ void HelpWindow::showUrl(const QUrl& url) {
   // First, since where an anchor lies depends on the window's width.
   show();
   page_->showPage(url);
+  page_->setFocus();
   raise();
   activateWindow();
 }

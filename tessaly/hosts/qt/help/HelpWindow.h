@@ -60,6 +60,7 @@ class HelpWindow : public QMainWindow {
 
   HelpShelf shelf_;
   int file_ = -1;
+  QAction* home_ = nullptr;
   QSplitter* splitter_;
   QTabWidget* side_;
   SitemapTree* contents_;

@@ -93,11 +93,11 @@ void HelpWindow::addTools() {
   setContextMenuPolicy(Qt::NoContextMenu);
   QAction* const back = tool(*this, QStringLiteral("Back"), "go-previous", QStyle::SP_ArrowBack);
   QAction* const forward = tool(*this, QStringLiteral("Forward"), "go-next", QStyle::SP_ArrowForward);
-  QAction* const home = tool(*this, QStringLiteral("Home"), "go-home", QStyle::SP_DirHomeIcon);
+  home_ = tool(*this, QStringLiteral("Home"), "go-home", QStyle::SP_DirHomeIcon);
   QAction* const find = tool(*this, QStringLiteral("Find"), "edit-find", QStyle::SP_FileDialogContentsView);
   addTool(*bar, back, {QKeySequence(Qt::ALT | Qt::Key_Left), QKeySequence(Qt::Key_Back)});
   addTool(*bar, forward, {QKeySequence(Qt::ALT | Qt::Key_Right), QKeySequence(Qt::Key_Forward)});
-  addTool(*bar, home, {QKeySequence(Qt::ALT | Qt::Key_Home)});
+  addTool(*bar, home_, {QKeySequence(Qt::ALT | Qt::Key_Home)});
   bar->addSeparator();
   addTool(*bar, find, {QKeySequence(Qt::CTRL | Qt::Key_F)});
   back->setEnabled(false);
@@ -106,7 +106,7 @@ void HelpWindow::addTools() {
   connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
   connect(back, &QAction::triggered, page_, &QTextBrowser::backward);
   connect(forward, &QAction::triggered, page_, &QTextBrowser::forward);
-  connect(home, &QAction::triggered, this, &HelpWindow::goHome);
+  connect(home_, &QAction::triggered, this, &HelpWindow::goHome);
   connect(find, &QAction::triggered, findBar_, &FindBar::open);
 }
 

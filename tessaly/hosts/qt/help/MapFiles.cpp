@@ -5,8 +5,6 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr auto kNone = std::u16string_view::npos;
-
 std::u16string_view trimmed(std::u16string_view text) {
   constexpr std::u16string_view kBlanks = u" \t\r";
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
@@ -26,7 +24,7 @@ std::u16string_view takeWord(std::u16string_view& line) {
 }
 
 /// The value of a digit; 16 for what is none.
-std::uint32_t valueOf(char16_t unit) {
+std::uint32_t digitValue(char16_t unit) {
   if (unit >= u'0' && unit <= u'9') return unit - std::uint32_t{u'0'};
   const auto letter = static_cast<char16_t>(unit | 0x20);
   return letter >= u'a' && letter <= u'f' ? letter - std::uint32_t{u'a'} + 10 : 16;
@@ -42,8 +40,8 @@ std::optional<std::uint32_t> numberOf(std::u16string_view word) {
   std::uint32_t number = 0;
   for (const char16_t unit : word) {
     const std::uint32_t base = isHex ? 16 : 10;
-    if (valueOf(unit) >= base) return {};
-    number = number * base + valueOf(unit);
+    if (digitValue(unit) >= base) return {};
+    number = number * base + digitValue(unit);
   }
   return isNegative ? 0 - number : number;
 }
@@ -64,7 +62,7 @@ std::optional<String> pageOfName(std::u16string_view text, std::u16string_view n
   while (!text.empty()) {
     const std::u16string_view line = takeLine(text);
     const std::size_t equals = line.find(u'=');
-    if (equals == kNone || trimmed(line.substr(0, equals)) != name) continue;
+    if (equals == String::npos || trimmed(line.substr(0, equals)) != name) continue;
     const std::u16string_view page = line.substr(equals + 1);
     return String(trimmed(page.substr(0, page.find(u';'))));
   }

@@ -6,7 +6,6 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr auto kNone = std::u16string_view::npos;
 constexpr std::size_t kLongestEntity = 10;
 
 struct NamedUnit {
@@ -44,7 +43,7 @@ String characterOf(std::u16string_view digits, unsigned base) {
 }
 
 /// What stands between '&' and ';'; empty where that is nothing known.
-String valueOf(std::u16string_view entity) {
+String entityValue(std::u16string_view entity) {
   if (entity.starts_with(u"#x") || entity.starts_with(u"#X")) return characterOf(entity.substr(2), 16);
   if (entity.starts_with(u'#')) return characterOf(entity.substr(1), 10);
   const auto* const named =
@@ -61,7 +60,7 @@ String withoutEntities(std::u16string_view text) {
     plain += text.substr(0, start);
     text.remove_prefix(start);
     const std::size_t end = text.substr(0, kLongestEntity).find(u';');
-    const String value = end == kNone ? String() : valueOf(text.substr(1, end - 1));
+    const String value = end == String::npos ? String() : entityValue(text.substr(1, end - 1));
     plain += value.empty() ? String(text.substr(0, 1)) : value;
     text.remove_prefix(value.empty() ? std::min<std::size_t>(1, text.size()) : end + 1);
   }

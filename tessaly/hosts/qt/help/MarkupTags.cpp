@@ -5,7 +5,6 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr auto kNone = std::u16string_view::npos;
 constexpr std::u16string_view kBlanks = u" \t\r\n\f";
 
 char16_t lowerUnit(char16_t unit) {
@@ -79,17 +78,17 @@ std::optional<String> MarkupTag::attribute(std::u16string_view attributeName) co
 /// What no longer comes is looked for once only, or a text made for it would be searched again and again.
 std::size_t MarkupTags::closing(char16_t quote, std::size_t from) {
   bool& isUsedUp = areQuotesUsedUp_.at(quote == u'"' ? 0 : 1);
-  const std::size_t end = isUsedUp ? kNone : text_.find(quote, from);
-  isUsedUp = end == kNone;
+  const std::size_t end = isUsedUp ? String::npos : text_.find(quote, from);
+  isUsedUp = end == String::npos;
   return end;
 }
 
 /// A '>' in quotes is part of a value, unless the quote never ends.
 std::size_t MarkupTags::endOfTag(std::size_t start) {
   std::size_t at = start;
-  while ((at = text_.find_first_of(u">\"'", at)) != kNone && text_[at] != u'>') {
+  while ((at = text_.find_first_of(u">\"'", at)) != String::npos && text_[at] != u'>') {
     const std::size_t end = closing(text_[at], at + 1);
-    at = (end == kNone ? at : end) + 1;
+    at = (end == String::npos ? at : end) + 1;
   }
   return at;
 }
@@ -97,17 +96,17 @@ std::size_t MarkupTags::endOfTag(std::size_t start) {
 bool MarkupTags::passComment(std::size_t start) {
   if (!text_.substr(start).starts_with(u"!--") || areCommentsUsedUp_) return false;
   const std::size_t end = text_.find(u"-->", start);
-  areCommentsUsedUp_ = end == kNone;
-  if (end != kNone) at_ = end + 3;
-  return end != kNone;
+  areCommentsUsedUp_ = end == String::npos;
+  if (end != String::npos) at_ = end + 3;
+  return end != String::npos;
 }
 
 std::optional<MarkupTag> MarkupTags::next() {
-  while ((at_ = text_.find(u'<', at_)) != kNone) {
+  while ((at_ = text_.find(u'<', at_)) != String::npos) {
     const std::size_t start = at_ + 1;
     if (passComment(start)) continue;
     const std::size_t end = endOfTag(start);
-    if (end == kNone) break;
+    if (end == String::npos) break;
     const std::u16string_view tag = text_.substr(start, end - start);
     at_ = end + 1;
     const std::size_t behindName = std::min(tag.find_first_of(kBlanks), tag.size());

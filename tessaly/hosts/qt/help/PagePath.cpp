@@ -7,8 +7,6 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr auto kNone = std::u16string_view::npos;
-
 int hexDigit(char16_t unit) {
   if (unit >= u'0' && unit <= u'9') return unit - u'0';
   if (unit >= u'A' && unit <= u'F') return unit - u'A' + 10;
@@ -25,7 +23,7 @@ int escapedByte(std::u16string_view text, std::size_t at) {
 }
 
 PageReference splitAt(std::u16string_view text, std::size_t at) {
-  if (at == kNone) return {String(text), {}};
+  if (at == String::npos) return {String(text), {}};
   return {String(text.substr(0, at)), String(text.substr(at + 1))};
 }
 
@@ -34,8 +32,8 @@ void addReadings(std::vector<PageReference>& found, std::u16string_view text) {
     if (std::find(found.begin(), found.end(), reading) == found.end()) found.push_back(std::move(reading));
   };
   const std::size_t afterPage = text.find(u".html#");
-  if (afterPage != kNone) add(splitAt(text, afterPage + 5));
-  add(splitAt(text, kNone));
+  if (afterPage != String::npos) add(splitAt(text, afterPage + 5));
+  add(splitAt(text, String::npos));
   add(splitAt(text, text.find(u'#')));
   add(splitAt(text, text.rfind(u'#')));
   // Behind these stand what a page would have told a server, and the name of a window.
@@ -79,7 +77,7 @@ String percentDecoded(std::u16string_view text) {
 std::vector<PageReference> readings(std::u16string_view reference) {
   std::vector<PageReference> found;
   addReadings(found, reference);
-  if (reference.find(u'%') != kNone) addReadings(found, percentDecoded(reference));
+  if (reference.find(u'%') != String::npos) addReadings(found, percentDecoded(reference));
   return found;
 }
 

@@ -13,7 +13,11 @@ namespace tessaly::qt {
 namespace {
 
 constexpr int kLongestPage = 8 << 20;
-constexpr int kDeepestTag = 200;
+constexpr int kDeepestTag = 2000;
+
+/// Each table within another doubles the time of the layout.
+constexpr int kDeepestTable = 10;
+constexpr int kMostTableCost = 50'000;
 
 bool hasMark(const std::string& bytes) {
   return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFF\xFE");
@@ -47,12 +51,17 @@ QString pageText(const std::string& bytes, Long codePage) {
 bool isFitToShow(const QString& html) {
   if (html.size() > kLongestPage) return false;
   int depth = 0;
+  int tables = 0;
+  int cost = 0;
   MarkupTags tags(viewOf(html));
   while (const auto tag = tags.next()) {
     if (isOpenByHabit(tag->name)) continue;
-    depth += tag->name.starts_with(u'/') ? -1 : 1;
-    depth = std::max(depth, 0);
-    if (depth > kDeepestTag) return false;
+    const int step = tag->name.starts_with(u'/') ? -1 : 1;
+    depth = std::max(depth + step, 0);
+    if (tag->name == u"table" || tag->name == u"/table") tables = std::max(tables + step, 0);
+    if (depth > kDeepestTag || tables > kDeepestTable) return false;
+    if (tag->name == u"table") cost += 1 << tables;
+    if (cost > kMostTableCost) return false;
   }
   return true;
 }

@@ -10,7 +10,7 @@ namespace tessaly::qt {
 /// A page's text in the encoding that it declares, or else in that of `helpText`.
 QString pageText(const std::string& bytes, Long codePage);
 
-/// Whether Qt can lay the page out: it is of no excessive length, and nothing in it is nested without end.
+/// Whether Qt lays the page out in some seconds: it is of no excessive length, and not nested without end.
 bool isFitToShow(const QString& html);
 
 /// The page with a type for each link to a style that has none, without which Qt does not follow it.

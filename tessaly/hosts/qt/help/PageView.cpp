@@ -12,7 +12,7 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr int kMargin = 16;
+constexpr int kMargin = 20;
 
 /// Pages are written for paper: their own colours tell nothing of a dark background.
 QPalette paper(QPalette palette) {
@@ -48,9 +48,9 @@ bool isPicture(const QString& name) {
 }
 
 bool isOutside(const QString& scheme) {
-  static const std::array<QLatin1String, 4> kOutside{QLatin1String("http"), QLatin1String("https"),
-                                                     QLatin1String("mailto"), QLatin1String("ftp")};
-  return std::find(kOutside.begin(), kOutside.end(), scheme) != kOutside.end();
+  static const std::array<QLatin1String, 4> kKnown{QLatin1String("http"), QLatin1String("https"),
+                                                   QLatin1String("mailto"), QLatin1String("ftp")};
+  return std::find(kKnown.begin(), kKnown.end(), scheme) != kKnown.end();
 }
 
 /// A relative one comes as an address of the file that it stands in.
@@ -67,6 +67,9 @@ PageView::PageView(HelpShelf& shelf, QWidget* parent) : QTextBrowser(parent), sh
   setOpenLinks(false);
   setAccessibleName(tr("Page"));
   document()->setDocumentMargin(kMargin);
+  // What pages leave open, as it reads well.
+  document()->setDefaultStyleSheet(
+      QStringLiteral("p, li, dd, td { line-height: 115%; } li { margin-bottom: 4px; }"));
   connect(this, &QTextBrowser::anchorClicked, this, &PageView::follow);
   connect(this, &QTextBrowser::sourceChanged, this, &PageView::turnToReading);
 }

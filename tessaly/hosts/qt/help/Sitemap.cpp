@@ -53,8 +53,7 @@ class Reader {
       value.resize(std::min(value.size(), kLongestTitle));
       if (title_.empty()) title_ = value;
       lastName_ = std::move(value);
-    }
-    if (isNamed(name, u"local") && value.size() <= kLongestReference && !isFull(pages_.size())) {
+    } else if (isNamed(name, u"local") && value.size() <= kLongestReference && !isFull(pages_.size())) {
       pages_.emplace_back(lastName_, std::move(value));
     }
   }

@@ -1,6 +1,6 @@
 #include "tessaly/hosts/qt/help/SitemapTree.h"
 
-#include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
 
 #include "tessaly/hosts/qt/Text.h"
@@ -10,6 +10,17 @@ namespace tessaly::qt {
 namespace {
 
 constexpr int kReference = Qt::UserRole;
+
+/// Lines that are easy to read and to hit.
+class RoomyLines : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    constexpr int kMore = 8;
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kMore);
+  }
+};
 
 QString referenceOf(const QTreeWidgetItem& line) { return line.data(0, kReference).toString(); }
 
@@ -27,8 +38,7 @@ SitemapTree::SitemapTree(const QString& name, QWidget* parent) : QTreeWidget(par
   setHeaderHidden(true);
   setFrameShape(QFrame::NoFrame);
   setUniformRowHeights(true);
-  header()->setStretchLastSection(false);
-  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  setItemDelegate(new RoomyLines(this));
   connect(this, &QTreeWidget::itemClicked, this, &SitemapTree::choose);
   connect(this, &QTreeWidget::itemActivated, this, &SitemapTree::choose);
 }
@@ -43,6 +53,7 @@ void SitemapTree::setEntries(const std::vector<SitemapEntry>& entries) {
     auto* const line = above.empty() ? new QTreeWidgetItem : new QTreeWidgetItem(above.back());
     if (above.empty()) roots.push_back(line);
     line->setText(0, toQString(entry.title).simplified());
+    line->setToolTip(0, line->text(0).toHtmlEscaped());
     line->setData(0, kReference, toQString(entry.page));
     above.push_back(line);
   }
