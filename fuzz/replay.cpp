@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace {
 
-std::vector<std::uint8_t> bytesOf(const std::filesystem::path& path) {
+std::vector<std::uint8_t> inputOf(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
@@ -23,7 +23,7 @@ int main(int argc, char** argv) {
   int count = 0;
   for (int i = 1; i < argc; ++i) {
     for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
-      const std::vector<std::uint8_t> bytes = bytesOf(entry.path());
+      const std::vector<std::uint8_t> bytes = inputOf(entry.path());
       LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
       ++count;
     }

@@ -9,8 +9,8 @@ jobs="$(nproc)"
 shownLogLines="${shownLogLines:-30}" # how much of its log a failing step shows
 
 buildPackages=(g++ cmake ninja-build libexpat1-dev libicu-dev libsqlite3-dev libgdk-pixbuf-2.0-dev
-  pkg-config)
-testPackages=("${buildPackages[@]}" googletest python3 qt6-base-dev)
+  pkg-config qt6-base-dev libmspack-dev)
+testPackages=("${buildPackages[@]}" googletest python3 dpkg-dev file xdotool xvfb)
 windowsPackages=(g++-mingw-w64-x86-64-posix wine wine64)
 fuzzPackages=("${buildPackages[@]}" clang libclang-rt-dev)
 export buildPackages testPackages windowsPackages fuzzPackages jobs

@@ -14,7 +14,6 @@
 namespace tessaly {
 namespace {
 
-constexpr MouseState kLeftButton = 1;
 constexpr std::int16_t kUsualPointer = 0;
 constexpr std::int16_t kHourglass = 11;
 constexpr Long kStopSign = 0x10;

@@ -18,7 +18,7 @@ constexpr std::array<std::uint8_t, 128> makeValues() {
 }
 constexpr auto kValues = makeValues();
 
-std::uint8_t valueOf(char16_t digit) { return digit < kValues.size() ? kValues[digit] : kNoDigit; }
+std::uint8_t digitValue(char16_t digit) { return digit < kValues.size() ? kValues[digit] : kNoDigit; }
 
 /// Up to three bytes as one number, the first in the highest place.
 std::uint32_t joined(std::string_view bytes) {
@@ -33,7 +33,7 @@ std::uint32_t joined(std::string_view bytes) {
 bool append(std::string& bytes, std::u16string_view digits) {
   std::uint32_t joinedDigits = 0;
   for (std::size_t i = 0; i < 4; ++i) {
-    const std::uint8_t value = i < digits.size() ? valueOf(digits[i]) : std::uint8_t{0};
+    const std::uint8_t value = i < digits.size() ? digitValue(digits[i]) : std::uint8_t{0};
     if (value == kNoDigit) return false;
     joinedDigits = (joinedDigits << 6) | value;
   }

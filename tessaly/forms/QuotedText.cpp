@@ -13,7 +13,7 @@ constexpr std::u16string_view kHexDigits = u"0123456789ABCDEF";
 constexpr std::array<std::pair<char16_t, char16_t>, 5> kShort = {
     {{u'"', u'"'}, {u'\\', u'\\'}, {u'n', u'\n'}, {u'r', u'\r'}, {u't', u'\t'}}};
 
-[[noreturn]] void refuse() { throw RuntimeError(RuntimeError::InvalidPropertyValue); }
+[[noreturn]] void refuseText() { throw RuntimeError(RuntimeError::InvalidPropertyValue); }
 
 bool isHigh(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
 bool isLow(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
@@ -36,7 +36,7 @@ void appendCode(String& result, char16_t unit) {
 }
 
 char16_t takeUnit(std::u16string_view& line) {
-  if (line.empty()) refuse();
+  if (line.empty()) refuseText();
   const char16_t unit = line.front();
   line.remove_prefix(1);
   return unit;
@@ -46,7 +46,7 @@ char16_t takeCode(std::u16string_view& line) {
   std::size_t code = 0;
   for (int i = 0; i < 4; ++i) {
     const std::size_t digit = kHexDigits.find(takeUnit(line));
-    if (digit == std::u16string_view::npos) refuse();
+    if (digit == std::u16string_view::npos) refuseText();
     code = code * 16 + digit;
   }
   return static_cast<char16_t>(code);
@@ -57,7 +57,7 @@ char16_t takeEscaped(std::u16string_view& line) {
   if (name == u'u') return takeCode(line);
   const auto* const found =
       std::find_if(kShort.begin(), kShort.end(), [&](const auto& each) { return each.first == name; });
-  if (found == kShort.end()) refuse();
+  if (found == kShort.end()) refuseText();
   return found->second;
 }
 
@@ -80,7 +80,7 @@ String quoted(std::u16string_view text) {
 }
 
 String takeQuoted(std::u16string_view& line) {
-  if (takeUnit(line) != u'"') refuse();
+  if (takeUnit(line) != u'"') refuseText();
   String text;
   for (char16_t unit = takeUnit(line); unit != u'"'; unit = takeUnit(line)) {
     text += unit == u'\\' ? takeEscaped(line) : unit;

@@ -15,10 +15,10 @@ using platform::OpenedKey;
 
 namespace {
 
-constexpr std::uint32_t kTextBuffer = 1000;
+constexpr std::uint32_t kSettingBuffer = 1000;
 
 /// As many characters as the value has bytes, unless it is cut before.
-String storedText(std::string_view bytes) {
+String paddedText(std::string_view bytes) {
   platform::BufferText stored(bytes);
   if (!stored.isCut) stored.text.resize(bytes.size(), u' ');
   return std::move(stored.text);
@@ -47,10 +47,10 @@ void CResources::SetLangFromRegistries(std::u16string_view path, std::u16string_
 void CResources::SetRegistryPath(std::u16string_view path) { registryPath_ = path; }
 
 String CResources::ReadRegistryString(std::u16string_view name, std::u16string_view defaultText) const {
-  std::array<char, kTextBuffer> buffer;
+  std::array<char, kSettingBuffer> buffer;
   const OpenedKey key(registryRoot_, registryPath_, OpenedKey::Purpose::Reading);
-  const auto size = key.read(name, buffer.data(), kTextBuffer);
-  return size ? storedText({buffer.data(), *size}) : String(defaultText);
+  const auto size = key.read(name, buffer.data(), kSettingBuffer);
+  return size ? paddedText({buffer.data(), *size}) : String(defaultText);
 }
 
 Long CResources::ReadRegistryLong(std::u16string_view name, Long defaultValue) const {

@@ -8,8 +8,6 @@
 namespace tessaly::platform {
 namespace {
 
-constexpr unsigned kFirstOther = 0x80;
-
 constexpr Long kThai = 874;
 constexpr Long kFirstOneByte = 1250;
 constexpr Long kLastOneByte = 1258;
@@ -20,7 +18,7 @@ bool isAllAscii(const Text& text) {
   using Unsigned = std::make_unsigned_t<typename Text::value_type>;
   Unsigned all = 0;
   for (const auto c : text) all = static_cast<Unsigned>(all | static_cast<Unsigned>(c));
-  return all < kFirstOther;
+  return all < kFirstNotAscii;
 }
 
 template <class Result, class Text>
@@ -48,9 +46,9 @@ String fromAnsi(std::string_view text) {
 }
 
 bool isNegativeAnsi(char16_t unit) {
-  if (unit < kFirstOther) return false;
+  if (unit < kFirstNotAscii) return false;
   const std::string bytes = toAnsi({&unit, 1});
-  return bytes.size() > 1 && static_cast<unsigned char>(bytes.front()) >= kFirstOther;
+  return bytes.size() > 1 && static_cast<unsigned char>(bytes.front()) >= kFirstNotAscii;
 }
 
 bool mayHaveNegativeAnsi() {

@@ -10,6 +10,9 @@
 /// force has it. ASCII is the same in every such page and asks no locale.
 namespace tessaly::platform {
 
+/// Bytes and units below it are ASCII.
+constexpr unsigned kFirstNotAscii = 0x80;
+
 bool isAscii(std::string_view text);
 
 TESSALY_API std::string toAnsi(std::u16string_view text);

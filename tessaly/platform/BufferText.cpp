@@ -7,12 +7,10 @@
 namespace tessaly::platform {
 namespace {
 
-constexpr unsigned char kFirstOther = 0x80;
-
 bool isControl(char c) { return static_cast<unsigned char>(c) < ' '; }
 
 /// A byte that is the same character in every code page, wherever it stands behind such bytes.
-bool isPlain(char c) { return !isControl(c) && static_cast<unsigned char>(c) < kFirstOther; }
+bool isPlain(char c) { return !isControl(c) && static_cast<unsigned char>(c) < kFirstNotAscii; }
 
 /// To look at a character's bytes makes a text of them, so a code page that never cuts is asked once and not
 /// for each.

@@ -13,7 +13,7 @@ namespace {
 using tests::errorOf;
 using tests::shown;
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+using Double = std::numeric_limits<double>;
 
 TEST(NumberText, WritesUpToFifteenDigits) {
   const std::pair<double, const char*> rows[] = {{0, "0"},
@@ -36,7 +36,7 @@ TEST(NumberText, WritesUpToFifteenDigits) {
 }
 
 TEST(NumberText, RaisesErrorSixForWhatIsNotFinite) {
-  EXPECT_EQ(errorOf([] { numberText(kInfinity); }), RuntimeError::Overflow);
+  EXPECT_EQ(errorOf([] { numberText(Double::infinity()); }), RuntimeError::Overflow);
   EXPECT_EQ(errorOf([] { numberText(std::numeric_limits<double>::quiet_NaN()); }), RuntimeError::Overflow);
 }
 
@@ -72,19 +72,19 @@ TEST(NumberText, TakesAnySeparatorThatALocaleHas) {
 
 TEST(NumberText, TakesNumbersThatADoubleCannotHoldForInfiniteOrZero) {
   const String zeros(400, u'0');
-  EXPECT_EQ(parseNumber(u"1e999", u"."), kInfinity);
-  EXPECT_EQ(parseNumber(u"-1e999", u"."), -kInfinity);
-  EXPECT_EQ(parseNumber(u"1" + zeros, u"."), kInfinity);
-  EXPECT_EQ(parseNumber(u"1e99999999999999999999999", u"."), kInfinity);
+  EXPECT_EQ(parseNumber(u"1e999", u"."), Double::infinity());
+  EXPECT_EQ(parseNumber(u"-1e999", u"."), -Double::infinity());
+  EXPECT_EQ(parseNumber(u"1" + zeros, u"."), Double::infinity());
+  EXPECT_EQ(parseNumber(u"1e99999999999999999999999", u"."), Double::infinity());
   EXPECT_EQ(parseNumber(u"1e-999", u"."), 0.0);
   EXPECT_EQ(parseNumber(u"." + zeros + u"1", u"."), 0.0);
   EXPECT_EQ(parseNumber(u"1e-99999999999999999999999", u"."), 0.0);
   EXPECT_EQ(parseNumber(u"." + zeros + u"1e401", u"."), 1.0);
-  EXPECT_EQ(parseNumber(u"." + zeros + u"1e800", u"."), kInfinity);
+  EXPECT_EQ(parseNumber(u"." + zeros + u"1e800", u"."), Double::infinity());
   EXPECT_EQ(parseNumber(u"1" + zeros + u"e-800", u"."), 0.0);
   EXPECT_EQ(parseNumber(u"0e999", u"."), 0.0);
   // The exponents at the ends of 64 bits once ran over when the fraction's place was added.
-  EXPECT_EQ(parseNumber(u"1e9223372036854775807", u"."), kInfinity);
+  EXPECT_EQ(parseNumber(u"1e9223372036854775807", u"."), Double::infinity());
   EXPECT_EQ(parseNumber(u"0.001e-9223372036854775808", u"."), 0.0);
 }
 

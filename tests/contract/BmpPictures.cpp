@@ -89,7 +89,7 @@ std::vector<PictureRow> plain() {
            {0xFFFFFFFF, 0xFF0000FF, 0xFF00FF00, 0xFFFF0000, 0xFF000000, 0xFF848484}}};
 }
 
-std::vector<PictureRow> palettes() {
+std::vector<PictureRow> bmpPalettes() {
   return {{"OfFewColours", bmp(8, {{0, 1, 2}}, 3).file(), 3, {colour(0), colour(1), colour(2)}},
           {"OfAColourThatIsMissing", bmp(8, {{0, 1, 9}}, 3).file(), 3, {colour(0), colour(1), 0xFF000000}},
           {"OfAShortPalette", ofAShortPalette(), 3, {colour(0), colour(1), 0xFF000000}},
@@ -155,7 +155,7 @@ std::vector<PictureRow> runs() {
 
 std::vector<PictureRow> bmpPictures() {
   std::vector<PictureRow> rows;
-  for (const auto& part : {plain(), palettes(), headers(), runs()})
+  for (const auto& part : {plain(), bmpPalettes(), headers(), runs()})
     rows.insert(rows.end(), part.begin(), part.end());
   return rows;
 }

@@ -19,7 +19,8 @@ struct Malformed {
 const std::string kPngMark = "\x89PNG\r\n\x1A\n";
 
 /// The parts of a PNG as they stand, however wrong.
-std::string png(const std::string& header, const std::string& stream, const std::string& between = "") {
+std::string pngOfParts(const std::string& header, const std::string& stream,
+                       const std::string& between = "") {
   return kPngMark + pngChunk("IHDR", header) + between + pngChunk("IDAT", stream) + pngChunk("IEND", "");
 }
 
@@ -64,30 +65,30 @@ std::vector<Malformed> otherFiles() {
 
 std::vector<Malformed> pngs() {
   const std::string two = unpackedStream(kRow + kRow);
-  const std::string sound = png(pngHeader(2, 2), two);
+  const std::string sound = pngOfParts(pngHeader(2, 2), two);
   return {{"PngWithoutAHeader", kPngMark + pngChunk("IDAT", two) + pngChunk("IEND", "")},
-          {"PngOfAShortHeader", png("\0\0\0\x02\0\0\0\x02"s, two)},
+          {"PngOfAShortHeader", pngOfParts("\0\0\0\x02\0\0\0\x02"s, two)},
           {"PngWithoutPixels", kPngMark + pngChunk("IHDR", pngHeader(2, 2)) + pngChunk("IEND", "")},
-          {"PngOfNoPixels", png(pngHeader(2, 2), "")},
-          {"PngOfTooFewRows", png(pngHeader(2, 2), unpackedStream(kRow))},
-          {"PngOfHalfARow", png(pngHeader(2, 2), unpackedStream(kRow + kRow.substr(0, 4)))},
-          {"PngOfAStreamThatIsCut", png(pngHeader(2, 2), two.substr(0, two.size() - 10))},
-          {"PngOfAStreamThatIsNone", png(pngHeader(2, 2), "this is not what a stream looks like")},
-          {"PngOfAnUnknownFilter", png(pngHeader(2, 2), unpackedStream(changed(kRow + kRow, 0, 9)))},
-          {"PngOfNoWidth", png(pngHeader(0, 2), two)},
-          {"PngOfNoHeight", png(pngHeader(2, 0), two)},
-          {"PngOf7Bits", png(pngHeader(2, 2, 7), two)},
-          {"PngOfUnknownColours", png(pngHeader(2, 2, 8, 5), two)},
-          {"PngOfUnknownInterlacing", png(pngHeader(2, 2, 8, 6, 9), two)},
-          {"PngWithoutItsPalette", png(pngHeader(1, 1, 8, 3), unpackedStream("\0\0"s))},
-          {"PngOfTwoHeaders", png(pngHeader(2, 2), two, pngChunk("IHDR", pngHeader(4, 4)))},
-          {"PngOfAnUnknownChunk", png(pngHeader(2, 2), two, pngChunk("ABCD", "x"))},
+          {"PngOfNoPixels", pngOfParts(pngHeader(2, 2), "")},
+          {"PngOfTooFewRows", pngOfParts(pngHeader(2, 2), unpackedStream(kRow))},
+          {"PngOfHalfARow", pngOfParts(pngHeader(2, 2), unpackedStream(kRow + kRow.substr(0, 4)))},
+          {"PngOfAStreamThatIsCut", pngOfParts(pngHeader(2, 2), two.substr(0, two.size() - 10))},
+          {"PngOfAStreamThatIsNone", pngOfParts(pngHeader(2, 2), "this is not what a stream looks like")},
+          {"PngOfAnUnknownFilter", pngOfParts(pngHeader(2, 2), unpackedStream(changed(kRow + kRow, 0, 9)))},
+          {"PngOfNoWidth", pngOfParts(pngHeader(0, 2), two)},
+          {"PngOfNoHeight", pngOfParts(pngHeader(2, 0), two)},
+          {"PngOf7Bits", pngOfParts(pngHeader(2, 2, 7), two)},
+          {"PngOfUnknownColours", pngOfParts(pngHeader(2, 2, 8, 5), two)},
+          {"PngOfUnknownInterlacing", pngOfParts(pngHeader(2, 2, 8, 6, 9), two)},
+          {"PngWithoutItsPalette", pngOfParts(pngHeader(1, 1, 8, 3), unpackedStream("\0\0"s))},
+          {"PngOfTwoHeaders", pngOfParts(pngHeader(2, 2), two, pngChunk("IHDR", pngHeader(4, 4)))},
+          {"PngOfAnUnknownChunk", pngOfParts(pngHeader(2, 2), two, pngChunk("ABCD", "x"))},
           {"PngOfADamagedHeader", changed(sound, 19, 1)},
           {"PngOfADamagedPixel", changed(sound, 60, 1)},
           {"PngOfAHugeChunk", changed(sound, 33, '\x7F')}};
 }
 
-BmpBytes bmp(unsigned bits = 24, Rows rows = {{0x112233, 0x445566}}) {
+BmpBytes smallBmp(unsigned bits = 24, Rows rows = {{0x112233, 0x445566}}) {
   BmpBytes bytes;
   bytes.bits = bits;
   bytes.rows = std::move(rows);
@@ -95,7 +96,7 @@ BmpBytes bmp(unsigned bits = 24, Rows rows = {{0x112233, 0x445566}}) {
 }
 
 std::string bmpOfSize(std::int32_t width, std::int32_t height) {
-  BmpBytes bytes = bmp();
+  BmpBytes bytes = smallBmp();
   bytes.width = width;
   bytes.height = height;
   return bytes.file();
@@ -103,7 +104,7 @@ std::string bmpOfSize(std::int32_t width, std::int32_t height) {
 
 std::string bmpOf(unsigned bits, std::uint32_t compression, const std::string& data = "",
                   bool isTopDown = false) {
-  BmpBytes bytes = bmp(bits, {{0, 0}});
+  BmpBytes bytes = smallBmp(bits, {{0, 0}});
   bytes.compression = compression;
   bytes.data = data;
   bytes.isTopDown = isTopDown;
@@ -111,12 +112,12 @@ std::string bmpOf(unsigned bits, std::uint32_t compression, const std::string& d
 }
 
 std::vector<Malformed> bmps() {
-  constexpr auto kLeast = std::numeric_limits<std::int32_t>::min();
-  return {{"BmpOfNoRows", bmp(24, {}).file()},
-          {"BmpOfNoColumns", bmp(24, {{}}).file()},
+  constexpr auto kLeastSide = std::numeric_limits<std::int32_t>::min();
+  return {{"BmpOfNoRows", smallBmp(24, {}).file()},
+          {"BmpOfNoColumns", smallBmp(24, {{}}).file()},
           {"BmpOfANegativeWidth", bmpOfSize(-2, 1)},
-          {"BmpOfTheLeastHeight", bmpOfSize(2, kLeast)},
-          {"BmpOfTheLeastWidth", bmpOfSize(kLeast, 1)},
+          {"BmpOfTheLeastHeight", bmpOfSize(2, kLeastSide)},
+          {"BmpOfTheLeastWidth", bmpOfSize(kLeastSide, 1)},
           {"BmpOfMoreRowsThanItHas", bmpOfSize(2, 2)},
           {"BmpOfLongerRowsThanItHas", bmpOfSize(3, 1)},
           {"BmpOf2Bits", bmpOf(2, 0)},
@@ -137,8 +138,8 @@ std::vector<Malformed> bmps() {
 }
 
 /// A screen and a frame of 2 by 1 with these codes, in blocks behind the number of their bits.
-std::string gif(const std::string& codes, std::uint32_t screen = 2, std::uint32_t width = 2,
-                bool hasPalette = true) {
+std::string gifOfCodes(const std::string& codes, std::uint32_t screen = 2, std::uint32_t width = 2,
+                       bool hasPalette = true) {
   Bytes bytes;
   bytes.text("GIF89a").word(screen).word(1).byte(hasPalette ? 0x80 : 0).byte(0).byte(0);
   if (hasPalette) bytes.text("\x11\x22\x33\x44\x55\x66");
@@ -149,20 +150,20 @@ std::string gif(const std::string& codes, std::uint32_t screen = 2, std::uint32_
 const std::string kCodes = "\x02\x02\x44\x0A\0"s;
 
 std::vector<Malformed> gifs() {
-  return {{"GifOfNoScreen", gif(kCodes, 0)},
-          {"GifOfNoColumns", gif(kCodes, 2, 0)},
+  return {{"GifOfNoScreen", gifOfCodes(kCodes, 0)},
+          {"GifOfNoColumns", gifOfCodes(kCodes, 2, 0)},
           {"GifOfNoFrame", "GIF89a\x02\0\x01\0\0\0\0;"s},
-          {"GifOfNoColours", gif(kCodes, 2, 2, false)},
-          {"GifOfNoCodes", gif("\x02\0"s)},
-          {"GifOfTooFewPixels", gif("\x02\x02\x44\x01\0"s)},
-          {"GifOfMorePixelsThanItHas", gif(kCodes, 2, 3)},
-          {"GifThatEndsAtOnce", gif("\x02\x01\x2C\0"s)},
-          {"GifOfACodeThatIsNone", gif("\x02\x02\x3C\0\0"s)},
-          {"GifOf0Bits", gif(changed(kCodes, 0, 0))},
-          {"GifOf9Bits", gif(changed(kCodes, 0, 9))},
-          {"GifOf200Bits", gif(changed(kCodes, 0, '\xC8'))},
-          {"GifOfAnUnknownBlock", changed(gif(kCodes), 19, 'x')},
-          {"GifWithoutAnEnd", gif(kCodes).substr(0, gif(kCodes).size() - 1)}};
+          {"GifOfNoColours", gifOfCodes(kCodes, 2, 2, false)},
+          {"GifOfNoCodes", gifOfCodes("\x02\0"s)},
+          {"GifOfTooFewPixels", gifOfCodes("\x02\x02\x44\x01\0"s)},
+          {"GifOfMorePixelsThanItHas", gifOfCodes(kCodes, 2, 3)},
+          {"GifThatEndsAtOnce", gifOfCodes("\x02\x01\x2C\0"s)},
+          {"GifOfACodeThatIsNone", gifOfCodes("\x02\x02\x3C\0\0"s)},
+          {"GifOf0Bits", gifOfCodes(changed(kCodes, 0, 0))},
+          {"GifOf9Bits", gifOfCodes(changed(kCodes, 0, 9))},
+          {"GifOf200Bits", gifOfCodes(changed(kCodes, 0, '\xC8'))},
+          {"GifOfAnUnknownBlock", changed(gifOfCodes(kCodes), 19, 'x')},
+          {"GifWithoutAnEnd", gifOfCodes(kCodes).substr(0, gifOfCodes(kCodes).size() - 1)}};
 }
 
 std::size_t markAt(const std::string& jpeg, char mark) { return jpeg.find(std::string{'\xFF', mark}); }
@@ -222,14 +223,14 @@ std::string hugeJpeg() {
 }
 
 std::string hugeGifFrame() {
-  std::string bytes = gif(kCodes);
+  std::string bytes = gifOfCodes(kCodes);
   for (const std::size_t at : {24U, 25U, 26U, 27U}) bytes = changed(bytes, at, '\xFF');
   return bytes;
 }
 
 IconEntry iconEntry(const std::string& content) { return {1, 1, 32, content}; }
 
-std::string bitmapInIcon(unsigned bits = 32) { return bmp(bits, {{0xFF112233}}).inIcon({{0}}); }
+std::string bitmapInIcon(unsigned bits = 32) { return smallBmp(bits, {{0xFF112233}}).inIcon({{0}}); }
 
 std::vector<Malformed> icons() {
   const std::string sound = iconFile({iconEntry(bitmapInIcon())});
@@ -241,14 +242,14 @@ std::vector<Malformed> icons() {
           {"IconOfText", iconFile({iconEntry("A text that is long enough for a header of a bitmap.")})},
           {"IconOfItself", itself},
           {"IconOfAnIcon", iconFile({iconEntry(sound)})},
-          {"IconOfABmpFile", iconFile({iconEntry(bmp().file())})},
-          {"IconOfAGif", iconFile({iconEntry(gif(kCodes))})},
+          {"IconOfABmpFile", iconFile({iconEntry(smallBmp().file())})},
+          {"IconOfAGif", iconFile({iconEntry(gifOfCodes(kCodes))})},
           {"IconOfAJpeg", iconFile({iconEntry(pictureBytes("baseline.jpg"))})},
           {"IconOfADamagedPng", iconFile({iconEntry("\x89PNG\r\n\x1A\nrather short")})},
           {"IconOfAnOddHeight", changed(sound, 22 + 8, 3)},
           {"IconFromTheTop", iconFile({iconEntry(changed(changed(bitmapInIcon(), 8, '\xFE'), 11, '\xFF'))})},
           {"IconOfRuns", changed(sound, 22 + 16, 1)},
-          {"IconOf24BitsWithoutAMask", iconFile({iconEntry(bmp(24, {{0x112233}}).inIcon({}))})},
+          {"IconOf24BitsWithoutAMask", iconFile({iconEntry(smallBmp(24, {{0x112233}}).inIcon({}))})},
           {"IconBehindTheEnd", changed(sound, 20, 1)}};
 }
 
@@ -269,11 +270,11 @@ std::vector<PictureRow> hugePictures() {
   const std::string pixels = unpackedStream(kRow);
   std::vector<PictureRow> rows;
   for (const auto& [name, bytes] : std::vector<Malformed>{
-           {"Png", png(pngHeader(kSide, kSide), pixels)},
-           {"PngInterlaced", png(pngHeader(kSide, kSide, 16, 6, 1), pixels)},
-           {"PngOfTheMost", png(pngHeader(kMost, kMost), pixels)},
-           {"PngTooWide", png(pngHeader(32'768, 1), unpackedStream(std::string(131'073, '\0')))},
-           {"PngOfTooManyPixels", png(pngHeader(8192, 4097), pixels)},
+           {"Png", pngOfParts(pngHeader(kSide, kSide), pixels)},
+           {"PngInterlaced", pngOfParts(pngHeader(kSide, kSide, 16, 6, 1), pixels)},
+           {"PngOfTheMost", pngOfParts(pngHeader(kMost, kMost), pixels)},
+           {"PngTooWide", pngOfParts(pngHeader(32'768, 1), unpackedStream(std::string(131'073, '\0')))},
+           {"PngOfTooManyPixels", pngOfParts(pngHeader(8192, 4097), pixels)},
            {"Bmp", bitmap},
            {"BmpFromTheTop", bmpOfSize(kSide, -static_cast<std::int32_t>(kSide))},
            {"BmpOfTheMost", bmpOfSize(kMost, kMost)},
@@ -283,9 +284,9 @@ std::vector<PictureRow> hugePictures() {
            {"Jpeg", hugeJpeg()},
            {"JpegOfManyScans", jpegOfManyScans()},
            {"IconOfABitmap", iconFile({iconEntry(bitmap.substr(14))})},
-           {"IconOfAPng", iconFile({iconEntry(png(pngHeader(kSide, kSide), pixels))})},
+           {"IconOfAPng", iconFile({iconEntry(pngOfParts(pngHeader(kSide, kSide), pixels))})},
            // Its number of pixels had been too large to count.
-           {"IconOfAPngOfTheMost", iconFile({iconEntry(png(pngHeader(~0U, ~0U), pixels))})}}) {
+           {"IconOfAPngOfTheMost", iconFile({iconEntry(pngOfParts(pngHeader(~0U, ~0U), pixels))})}}) {
     rows.push_back({name, bytes, 0, {}});
   }
   return rows;

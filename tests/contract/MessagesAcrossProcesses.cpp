@@ -28,11 +28,6 @@ std::string words(const Parts&... parts) {
   return line.str();
 }
 
-std::intptr_t send(WindowHandle window, const char* name, std::uintptr_t wParam = 0,
-                   std::intptr_t lParam = 0) {
-  return messages().SendMessageA(window, numberOf(name), wParam, lParam);
-}
-
 std::future<std::intptr_t> sendAside(WindowHandle window, const char* name) {
   return std::async(std::launch::async, [=] { return send(window, name, 1, 2); });
 }

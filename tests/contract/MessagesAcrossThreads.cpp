@@ -60,11 +60,6 @@ class WindowThread {
   WindowHandle window_;
 };
 
-std::intptr_t send(WindowHandle window, const char* name, std::uintptr_t wParam = 0,
-                   std::intptr_t lParam = 0) {
-  return messages().SendMessageA(window, numberOf(name), wParam, lParam);
-}
-
 TEST_F(MessagesAcrossThreads, AWindowHandlesOnItsOwnThread) {
   std::thread::id handledOn;
   WindowThread receiver([&](const SentMessage&) {

@@ -15,6 +15,10 @@ Messages& messages() { return *core().messages; }
 
 std::uint32_t numberOf(const std::string& name) { return messages().RegisterWindowMessageA(name.c_str()); }
 
+std::intptr_t send(WindowHandle window, const char* name, std::uintptr_t wParam, std::intptr_t lParam) {
+  return messages().SendMessageA(window, numberOf(name), wParam, lParam);
+}
+
 bool isAlive(WindowHandle window) { return messages().GetWindowLongA(window, kWindowInstance) != 0; }
 
 std::vector<WindowHandle> windowsThere() {

@@ -27,6 +27,8 @@ class MessagesWorld {
 
 platform::Messages& messages();
 std::uint32_t numberOf(const std::string& name);
+std::intptr_t send(platform::WindowHandle window, const char* name, std::uintptr_t wParam = 0,
+                   std::intptr_t lParam = 0);
 bool isAlive(platform::WindowHandle window);
 
 /// All that an enumeration shows.

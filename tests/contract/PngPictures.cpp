@@ -7,7 +7,7 @@ namespace {
 using namespace std::string_literals;
 
 /// Four colours, red first.
-const std::string kPalette = "\x11\x22\x33\x44\x55\x66\x77\x88\x99\xAA\xBB\xCC";
+const std::string kPaletteBytes = "\x11\x22\x33\x44\x55\x66\x77\x88\x99\xAA\xBB\xCC";
 
 std::string png(PngColours colours, unsigned depth, WideRows rows, const std::string& palette = "",
                 const std::string& transparency = "", bool isInterlaced = false) {
@@ -60,18 +60,18 @@ std::vector<PictureRow> greys() {
       {"GreyOf1BitWithAClearOne", png(Grey, 1, {{0, 1}}, "", "\0\1"s), 2, {0xFF000000, 0}}};
 }
 
-std::vector<PictureRow> palettes() {
+std::vector<PictureRow> pngPalettes() {
   using enum PngColours;
   const std::vector<std::uint32_t> all = {0xFF112233, 0xFF445566, 0xFF778899, 0xFFAABBCC};
-  return {{"PaletteOf8Bits", png(Palette, 8, {{0, 1, 2, 3}}, kPalette), 4, all},
-          {"PaletteOf4Bits", png(Palette, 4, {{0, 1, 2, 3}}, kPalette), 4, all},
-          {"PaletteOf2Bits", png(Palette, 2, {{0, 1, 2, 3}}, kPalette), 4, all},
+  return {{"PaletteOf8Bits", png(Palette, 8, {{0, 1, 2, 3}}, kPaletteBytes), 4, all},
+          {"PaletteOf4Bits", png(Palette, 4, {{0, 1, 2, 3}}, kPaletteBytes), 4, all},
+          {"PaletteOf2Bits", png(Palette, 2, {{0, 1, 2, 3}}, kPaletteBytes), 4, all},
           {"PaletteOf1Bit",
-           png(Palette, 1, {{0, 1, 1}}, kPalette.substr(0, 6)),
+           png(Palette, 1, {{0, 1, 1}}, kPaletteBytes.substr(0, 6)),
            3,
            {0xFF112233, 0xFF445566, 0xFF445566}},
           {"PaletteWithClearColours",
-           png(Palette, 8, {{0, 1, 2, 3}}, kPalette, "\0\x80"s),
+           png(Palette, 8, {{0, 1, 2, 3}}, kPaletteBytes, "\0\x80"s),
            4,
            {0, 0x80445566, 0xFF778899, 0xFFAABBCC}}};
 }
@@ -98,7 +98,7 @@ std::vector<PictureRow> interlaced() {
   using enum PngColours;
   return {{"Interlaced", png(Rgba, 8, manyPixels(), "", "", true), 9, asPixels(manyPixels())},
           {"InterlacedPalette",
-           png(Palette, 4, {{0, 1, 2}, {3, 2, 1}}, kPalette, "", true),
+           png(Palette, 4, {{0, 1, 2}, {3, 2, 1}}, kPaletteBytes, "", true),
            3,
            {0xFF112233, 0xFF445566, 0xFF778899, 0xFFAABBCC, 0xFF778899, 0xFF445566}},
           {"InterlacedPixel", png(Rgb, 8, {{0x112233}}, "", "", true), 1, {0xFF112233}}};
@@ -118,7 +118,7 @@ std::vector<PictureRow> chunksAside() {
 
 std::vector<PictureRow> pngPictures() {
   std::vector<PictureRow> rows;
-  for (const auto& part : {colours(), greys(), palettes(), interlaced(), chunksAside()}) {
+  for (const auto& part : {colours(), greys(), pngPalettes(), interlaced(), chunksAside()}) {
     rows.insert(rows.end(), part.begin(), part.end());
   }
   return rows;

@@ -10,8 +10,8 @@
 namespace tessaly::tests {
 namespace {
 
-constexpr Long kMost = std::numeric_limits<Long>::max();
-constexpr Long kLeast = std::numeric_limits<Long>::min();
+constexpr Long kMostLong = std::numeric_limits<Long>::max();
+constexpr Long kLeastLong = std::numeric_limits<Long>::min();
 
 class TransparentBltContract : public testing::TestWithParam<Body> {
  protected:
@@ -72,11 +72,11 @@ TEST_P(TransparentBltContract, CopiesNothingBesideTheTarget) {
 TEST_P(TransparentBltContract, CopiesNothingFarAway) {
   constexpr Area kAll{0, 0, 4, 3};
   const std::initializer_list<std::string_view> kNothing = {"......", "......", "......", "......"};
-  expectCopies({{{kMost, 0, 4, 3}, kAll, kNothing},
-                {{0, kMost, 4, 3}, kAll, kNothing},
-                {{kLeast, 0, 4, 3}, kAll, kNothing},
-                {{0, kLeast, 4, 3}, kAll, kNothing},
-                {{kMost, kLeast, 8, 6}, kAll, kNothing}});
+  expectCopies({{{kMostLong, 0, 4, 3}, kAll, kNothing},
+                {{0, kMostLong, 4, 3}, kAll, kNothing},
+                {{kLeastLong, 0, 4, 3}, kAll, kNothing},
+                {{0, kLeastLong, 4, 3}, kAll, kNothing},
+                {{kMostLong, kLeastLong, 8, 6}, kAll, kNothing}});
 }
 
 TEST_P(TransparentBltContract, CopiesAPartOfTheSource) {
@@ -110,11 +110,13 @@ TEST_P(TransparentBltContract, ShrinksByTheNearestPixel) {
 
 TEST_P(TransparentBltContract, ScalesToWhatIsFarLargerThanTheTarget) {
   expectCopies({{{0, 0, 100'000, 100'000}, {0, 0, 4, 3}, {"aaaaaa", "aaaaaa", "aaaaaa", "aaaaaa"}},
-                {{-2, -1, kMost, kMost}, {1, 1, 1, 1}, {"......", "......", "......", "......"}},
-                {{1, 2, kMost, kMost}, {0, 0, 1, 1}, {"......", "......", ".aaaaa", ".aaaaa"}},
-                {{kLeast, kLeast, kMost, kMost}, {0, 0, 1, 1}, {"......", "......", "......", "......"}},
-                {{2 - kMost, 0, kMost, 4}, {0, 0, 4, 1}, {"dd....", "dd....", "dd....", "dd...."}},
-                {{-1'500'000'000, 0, kMost, 3}, {0, 0, 4, 3}, {"......", "gggggg", "kkkkkk", "......"}}});
+                {{-2, -1, kMostLong, kMostLong}, {1, 1, 1, 1}, {"......", "......", "......", "......"}},
+                {{1, 2, kMostLong, kMostLong}, {0, 0, 1, 1}, {"......", "......", ".aaaaa", ".aaaaa"}},
+                {{kLeastLong, kLeastLong, kMostLong, kMostLong},
+                 {0, 0, 1, 1},
+                 {"......", "......", "......", "......"}},
+                {{2 - kMostLong, 0, kMostLong, 4}, {0, 0, 4, 1}, {"dd....", "dd....", "dd....", "dd...."}},
+                {{-1'500'000'000, 0, kMostLong, 3}, {0, 0, 4, 3}, {"......", "gggggg", "kkkkkk", "......"}}});
 }
 
 TEST_P(TransparentBltContract, ScalesTheWidestSurfaces) {
@@ -129,7 +131,7 @@ TEST_P(TransparentBltContract, ScalesTheWidestSurfaces) {
 TEST_P(TransparentBltContract, CopiesNothingWhereASizeIsBelowOne) {
   const Canvas source({"ab", "cd"});
   const Canvas target({"zz", "zz"});
-  for (const Long size : {0, -1, -2, kLeast}) {
+  for (const Long size : {0, -1, -2, kLeastLong}) {
     EXPECT_FALSE(copy(target, {0, 0, size, 2}, source, {0, 0, 2, 2})) << size;
     EXPECT_FALSE(copy(target, {0, 0, 2, size}, source, {0, 0, 2, 2})) << size;
     EXPECT_FALSE(copy(target, {0, 0, 2, 2}, source, {0, 0, size, 2})) << size;
@@ -144,8 +146,8 @@ TEST_P(TransparentBltContract, CopiesNothingWhereAnAreaLeavesTheSource) {
   const Canvas target({"zzz", "zzz"});
   for (const Area& from :
        {Area{-1, 0, 2, 2}, Area{0, -1, 2, 2}, Area{2, 0, 2, 2}, Area{0, 1, 2, 2}, Area{3, 0, 1, 1},
-        Area{0, 2, 1, 1}, Area{-1, -1, 5, 4}, Area{0, 0, 4, 2}, Area{kMost, 0, 1, 1}, Area{1, 0, kMost, 1},
-        Area{0, 1, 1, kMost}, Area{kLeast, 0, kMost, 1}}) {
+        Area{0, 2, 1, 1}, Area{-1, -1, 5, 4}, Area{0, 0, 4, 2}, Area{kMostLong, 0, 1, 1},
+        Area{1, 0, kMostLong, 1}, Area{0, 1, 1, kMostLong}, Area{kLeastLong, 0, kMostLong, 1}}) {
     EXPECT_FALSE(copy(target, {0, 0, 2, 2}, source, from)) << from;
   }
   EXPECT_EQ(target.text(), rows({"zzz", "zzz"}));

@@ -9,7 +9,7 @@ namespace {
 
 bool runs(const Timer& timer) { return timer.Enabled() && timer.Interval() > 0; }
 
-std::string joined(const std::vector<std::pair<std::string, bool>>& words) {
+std::string holding(const std::vector<std::pair<std::string, bool>>& words) {
   std::string text;
   for (const auto& [word, holds] : words) {
     if (!holds || word.empty()) continue;
@@ -45,13 +45,13 @@ std::string InputStage::heard() { return std::exchange(heard_, ""); }
 std::string InputStage::state() const {
   using Peer = transparentBitmapPeer;
   const auto& children = Peer::children(control);
-  const std::string text = joined({{"hovered", Peer::isHovered(control) != 0},
-                                   {"pressed", Peer::isPressed(control) != 0},
-                                   {border(), true},
-                                   {"polling", runs(*children.Timer1)},
-                                   {"counting", runs(*children.Timer2)},
-                                   {"rested", Peer::selectedRaised(control) != 0},
-                                   {"repeating", runs(*children.timerAutoClick)}});
+  const std::string text = holding({{"hovered", Peer::isHovered(control) != 0},
+                                    {"pressed", Peer::isPressed(control) != 0},
+                                    {border(), true},
+                                    {"polling", runs(*children.Timer1)},
+                                    {"counting", runs(*children.Timer2)},
+                                    {"rested", Peer::selectedRaised(control) != 0},
+                                    {"repeating", runs(*children.timerAutoClick)}});
   return text.empty() ? "idle" : text;
 }
 

@@ -15,11 +15,11 @@ namespace tessaly::tests {
 namespace {
 
 constexpr Long kAbsent = -99;
-const Variant kDefault(kAbsent);
+const Variant kAbsentNumber(kAbsent);
 
 class PropertyBagTest : public testing::Test {
  protected:
-  Long read(std::u16string_view name) { return longOf(bag_.ReadProperty(name, kDefault)); }
+  Long read(std::u16string_view name) { return longOf(bag_.ReadProperty(name, kAbsentNumber)); }
   void write(std::u16string_view name, Long value) {
     bag_.WriteProperty(name, Variant(value), Variant(Long{0}));
   }
@@ -49,7 +49,7 @@ TEST_F(PropertyBagTest, DoesNotKeepTheDefault) {
   write(u"Width", 0);
   EXPECT_EQ(read(u"Width"), kAbsent);
   bag_.WriteProperty(u"Flag", Variant(Boolean(1)), Variant(True));
-  EXPECT_EQ(booleanOf(bag_.ReadProperty(u"Flag", kDefault)), 1);
+  EXPECT_EQ(booleanOf(bag_.ReadProperty(u"Flag", kAbsentNumber)), 1);
   bag_.WriteProperty(u"Kind", Variant(Long{0}), Variant(False));
   EXPECT_EQ(read(u"Kind"), 0);
 }
@@ -60,19 +60,19 @@ TEST_F(PropertyBagTest, APictureIsEqualToItselfAlone) {
   bag_.WriteProperty(u"Empty", LoadPicture(u""), PictureReference());
   bag_.WriteProperty(u"None", PictureReference(), PictureReference());
   bag_.WriteProperty(u"Picture", picture, PictureReference());
-  EXPECT_EQ(std::get<Variant>(bag_.ReadProperty(u"Same", kDefault)), kDefault);
-  EXPECT_TRUE(pictureOf(bag_.ReadProperty(u"Empty", kDefault))->isEmpty());
-  EXPECT_EQ(std::get<Variant>(bag_.ReadProperty(u"None", kDefault)), kDefault);
-  EXPECT_EQ(pictureOf(bag_.ReadProperty(u"Picture", kDefault)), picture);
+  EXPECT_EQ(std::get<Variant>(bag_.ReadProperty(u"Same", kAbsentNumber)), kAbsentNumber);
+  EXPECT_TRUE(pictureOf(bag_.ReadProperty(u"Empty", kAbsentNumber))->isEmpty());
+  EXPECT_EQ(std::get<Variant>(bag_.ReadProperty(u"None", kAbsentNumber)), kAbsentNumber);
+  EXPECT_EQ(pictureOf(bag_.ReadProperty(u"Picture", kAbsentNumber)), picture);
 }
 
 TEST_F(PropertyBagTest, ACopyIsABagOfItsOwn) {
   write(u"Width", 5);
   PropertyBag copy = bag_;
   write(u"Width", 6);
-  EXPECT_EQ(longOf(copy.ReadProperty(u"Width", kDefault)), 5);
+  EXPECT_EQ(longOf(copy.ReadProperty(u"Width", kAbsentNumber)), 5);
   copy = bag_;
-  EXPECT_EQ(longOf(copy.ReadProperty(u"Width", kDefault)), 6);
+  EXPECT_EQ(longOf(copy.ReadProperty(u"Width", kAbsentNumber)), 6);
 }
 
 TEST(PropertyValueTest, AsALong) {

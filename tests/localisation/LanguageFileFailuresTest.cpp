@@ -48,7 +48,7 @@ class LanguageFileFailuresTest : public testing::Test {
   CResources resources_;
 };
 
-const std::string kBuiltIn = "&Cancel";
+const std::string kBuiltInText = "&Cancel";
 
 TEST_F(LanguageFileFailuresTest, StartFromALanguageInForce) {
   EXPECT_EQ(res(0), "before");
@@ -58,28 +58,28 @@ TEST_F(LanguageFileFailuresTest, StartFromALanguageInForce) {
 
 TEST_F(LanguageFileFailuresTest, AMissingFileIsNotRejectedAndLeavesTheBuiltInTexts) {
   EXPECT_FALSE(read(u"missing.xml"));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,,,0");
   EXPECT_EQ(gridFont(), "0");
 }
 
 TEST_F(LanguageFileFailuresTest, AFileThatIsNotWellFormedIsNotRejectedAndLeavesTheBuiltInTexts) {
   EXPECT_FALSE(rejected("<L>" + general("F", 1036) + text(1, "x")));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,,,0");
   EXPECT_EQ(gridFont(), "0");
 }
 
 TEST_F(LanguageFileFailuresTest, AFileOfAnotherApplicationIsRejected) {
   EXPECT_TRUE(rejected(document(general("F", 1036, "other") + text(1, "x") + kFonts)));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,other,F,1036");
   EXPECT_EQ(gridFont(), "0");
 }
 
 TEST_F(LanguageFileFailuresTest, AFileWithoutAGuidIsRejected) {
   EXPECT_TRUE(rejected(document("<GENERAL><LANG>F</LANG><LANGID>1036</LANGID></GENERAL>" + text(1, "x"))));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,,F,1036");
 }
 
@@ -87,28 +87,28 @@ TEST_F(LanguageFileFailuresTest, AFileWithoutALanguageNameIsRejected) {
   EXPECT_TRUE(rejected(document("<GENERAL><GUID>G</GUID><LANGID>1036</LANGID></GENERAL>" + text(1, "x"))));
   EXPECT_TRUE(rejected(document(general("", 1036) + text(1, "x"))));
   EXPECT_TRUE(rejected(document(general(" ", 1036) + text(1, "x"))));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,G,,1036");
 }
 
 TEST_F(LanguageFileFailuresTest, AFileWithoutALanguageNumberIsRejected) {
   EXPECT_TRUE(rejected(document("<GENERAL><GUID>G</GUID><LANG>F</LANG></GENERAL>" + text(1, "x"))));
   EXPECT_TRUE(rejected(document(general("F", 0) + text(1, "x"))));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,G,F,0");
 }
 
 TEST_F(LanguageFileFailuresTest, AFileWithoutAHeaderIsRejected) {
   EXPECT_TRUE(rejected(document(text(1, "x"))));
   EXPECT_TRUE(rejected("<L/>"));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
 }
 
 TEST_F(LanguageFileFailuresTest, ABadNumberInTheHeaderEndsTheReadAndKeepsTheFieldsBefore) {
   EXPECT_FALSE(rejected(
       document("<GENERAL><GUID>G</GUID><LANG>F</LANG><LANGID>many</LANGID><VERSION>8</VERSION></GENERAL>" +
                text(1, "x"))));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,G,F,0");
   EXPECT_FALSE(
       rejected(document("<GENERAL><LANGID>1036</LANGID><VERSION>1.2.3</VERSION><GUID>G</GUID></GENERAL>")));
@@ -120,7 +120,7 @@ TEST_F(LanguageFileFailuresTest, AHeaderNumberThatIsEmptyOrBeyondThirtyTwoBitsIs
     EXPECT_FALSE(rejected(document("<GENERAL><GUID>G</GUID><LANG>F</LANG><LANGID>" + std::string(number) +
                                    "</LANGID></GENERAL>" + text(1, "x"))));
     EXPECT_EQ(header(), "3,G,F,0") << number;
-    EXPECT_EQ(res(0), kBuiltIn) << number;
+    EXPECT_EQ(res(0), kBuiltInText) << number;
   }
 }
 
@@ -149,7 +149,7 @@ TEST_F(LanguageFileFailuresTest, WithoutXmlAFullReadLeavesTheBuiltInTextsAndTheF
   folder_.put(u"file.xml", document(general("F", 1036) + text(1, "x")));
   folder_.xml.failCreate();
   EXPECT_FALSE(read(u"file.xml"));
-  EXPECT_EQ(res(0), kBuiltIn);
+  EXPECT_EQ(res(0), kBuiltInText);
   EXPECT_EQ(header(), "3,G,Before,1031");
   EXPECT_EQ(gridFont(), "T9");
 }

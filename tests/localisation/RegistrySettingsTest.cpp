@@ -68,16 +68,16 @@ class RegistrySettingsTest : public testing::Test {
   CResources resources_;
 };
 
-const std::string kFrench = "1036 French Annuler";
-const std::string kGerman = "1031 German Abbrechen";
-const std::string kBuiltIn = "2057 English &Cancel";
+const std::string kFrenchLanguage = "1036 French Annuler";
+const std::string kGermanLanguage = "1031 German Abbrechen";
+const std::string kBuiltInLanguage = "2057 English &Cancel";
 
 TEST_F(RegistrySettingsTest, TakesTheFolderFromTheMachinesSettings) {
   putFolder("/texts\0"s);
   put(kCurrentUser, "Resources", {kText, "/elsewhere"});
   resources_.SetResourcesPathFromRegistry(kPath, u"Resources");
   resources_.SetDefaultLang();
-  EXPECT_EQ(chosen(), kFrench);
+  EXPECT_EQ(chosen(), kFrenchLanguage);
 }
 
 TEST_F(RegistrySettingsTest, TakesTheRootForAFolderThatIsNotStored) {
@@ -98,28 +98,28 @@ TEST_F(RegistrySettingsTest, TakesTheLanguageFromTheUsersSettings) {
   put(kLocalMachine, "Lang", {kNumber, "\x0C\x04\0\0"s});
   resources_.resourcesPath(u"/texts");
   resources_.SetLangFromRegistries(kPath, u"Lang");
-  EXPECT_EQ(chosen(), kGerman);
+  EXPECT_EQ(chosen(), kGermanLanguage);
 }
 
 TEST_F(RegistrySettingsTest, TakesTheUsersLocaleForALanguageThatIsNotStored) {
   resources_.resourcesPath(u"/texts");
   resources_.SetLangFromRegistries(kPath, u"Lang");
-  EXPECT_EQ(chosen(), kFrench);
+  EXPECT_EQ(chosen(), kFrenchLanguage);
   putLang("\x07\x04\0\0"s);
   resources_.SetLangFromRegistries(kPath, u"Lang");
-  EXPECT_EQ(chosen(), kGerman);
+  EXPECT_EQ(chosen(), kGermanLanguage);
   resources_.SetLangFromRegistries(kPath, u"Other");
-  EXPECT_EQ(chosen(), kFrench);
+  EXPECT_EQ(chosen(), kFrenchLanguage);
   putLang("12345");
   resources_.SetLangFromRegistries(kPath, u"Lang");
-  EXPECT_EQ(chosen(), kFrench);
+  EXPECT_EQ(chosen(), kFrenchLanguage);
 }
 
 TEST_F(RegistrySettingsTest, TakesAStoredLanguageByItsExactNumberAsLangDoes) {
   resources_.resourcesPath(u"/texts");
   putLang("\x0C\x0C\0\0"s);
   resources_.SetLangFromRegistries(kPath, u"Lang");
-  EXPECT_EQ(chosen(), kBuiltIn);
+  EXPECT_EQ(chosen(), kBuiltInLanguage);
 }
 
 TEST_F(RegistrySettingsTest, StoresTheNumberThatItIsGivenForTheUser) {
@@ -134,9 +134,9 @@ TEST_F(RegistrySettingsTest, LeavesTheLanguageInForceWhenItStoresOne) {
   resources_.resourcesPath(u"/texts");
   resources_.lang(1036);
   resources_.SetLangToRegistries(kPath, u"Lang", 1031);
-  EXPECT_EQ(chosen(), kFrench);
+  EXPECT_EQ(chosen(), kFrenchLanguage);
   resources_.SetLangFromRegistries(kPath, u"Lang");
-  EXPECT_EQ(chosen(), kGerman);
+  EXPECT_EQ(chosen(), kGermanLanguage);
 }
 
 TEST_F(RegistrySettingsTest, LooksForNoFilesWhenItReadsTheFolderOrStoresALanguage) {
@@ -152,7 +152,7 @@ TEST_F(RegistrySettingsTest, TakesAStarForTheUnnamedValue) {
   put(kLocalMachine, nullptr, {kText, "/texts"});
   resources_.SetResourcesPathFromRegistry(kPath, u"*");
   resources_.SetLangFromRegistries(kPath, u"*");
-  EXPECT_EQ(chosen(), kGerman);
+  EXPECT_EQ(chosen(), kGermanLanguage);
 }
 
 TEST_F(RegistrySettingsTest, OpensUsesAndClosesAKeyForEach) {
@@ -180,11 +180,11 @@ TEST_F(RegistrySettingsTest, GivesDefaultsWhereTheRegistryFails) {
     EXPECT_EQ(readString(), "default");
     EXPECT_EQ(readLong(), -7);
     resources_.SetLangFromRegistries(kPath, u"Lang");
-    EXPECT_EQ(chosen(), kFrench);
+    EXPECT_EQ(chosen(), kFrenchLanguage);
     EXPECT_EQ(registry_.openKeys(), 0);
     registry_.fail(call, kSuccess);
     resources_.SetLangFromRegistries(kPath, u"Lang");
-    EXPECT_EQ(chosen(), kGerman);
+    EXPECT_EQ(chosen(), kGermanLanguage);
   }
 }
 

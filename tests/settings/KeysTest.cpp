@@ -18,7 +18,7 @@ using tests::Body;
 using tests::errorOf;
 using tests::shown;
 
-constexpr Long kUser = 2;
+constexpr Long kUserRoot = 2;
 
 class KeysTest : public testing::TestWithParam<Body> {
  protected:
@@ -32,11 +32,11 @@ class KeysTest : public testing::TestWithParam<Body> {
   bool has(std::u16string_view name) const { return tests::hasKey(kCurrentUser, inner(name)); }
   bool isThere() const { return tests::hasKey(kCurrentUser, world_->path()); }
 
-  String nameAt(Long index) { return registry_.GetSubKeyName(kUser, world_->path(), index); }
+  String nameAt(Long index) { return registry_.GetSubKeyName(kUserRoot, world_->path(), index); }
 
   std::string names() {
     std::string result;
-    for (Long index = 1; index <= registry_.GetSubkeysNumber(kUser, world_->path()).toLong(); ++index) {
+    for (Long index = 1; index <= registry_.GetSubkeysNumber(kUserRoot, world_->path()).toLong(); ++index) {
       result += '<' + shown(nameAt(index)) + '>';
     }
     return result;
@@ -44,7 +44,7 @@ class KeysTest : public testing::TestWithParam<Body> {
 
   /// Whether the deletion failed, as its result says.
   bool failsToDelete() {
-    const Variant failed = registry_.DeletePath(kUser, world_->path());
+    const Variant failed = registry_.DeletePath(kUserRoot, world_->path());
     EXPECT_TRUE(std::holds_alternative<Boolean>(failed.value()));
     return failed.toLong() != 0;
   }
@@ -58,17 +58,17 @@ INSTANTIATE_TEST_SUITE_P(Body, KeysTest, testing::Values(Body::Own, Body::Fake),
 
 TEST_P(KeysTest, CountTheDirectSubkeysAsALong) {
   put({u"b", u"a\\deeper", u"c"});
-  const Variant count = registry_.GetSubkeysNumber(kUser, world_->path());
+  const Variant count = registry_.GetSubkeysNumber(kUserRoot, world_->path());
   EXPECT_EQ(std::get<Long>(count.value()), 3);
-  EXPECT_EQ(std::get<Long>(registry_.GetSubkeysNumber(kUser, inner(u"b")).value()), 0);
+  EXPECT_EQ(std::get<Long>(registry_.GetSubkeysNumber(kUserRoot, inner(u"b")).value()), 0);
 }
 
 TEST_P(KeysTest, GiveASmallZeroWhereThereIsNoKeyToCount) {
-  EXPECT_EQ(std::get<std::int16_t>(registry_.GetSubkeysNumber(kUser, world_->path()).value()), 0);
+  EXPECT_EQ(std::get<std::int16_t>(registry_.GetSubkeysNumber(kUserRoot, world_->path()).value()), 0);
   put({u"a"});
   EXPECT_EQ(std::get<std::int16_t>(registry_.GetSubkeysNumber(5, world_->path()).value()), 0);
   EXPECT_EQ(std::get<std::int16_t>(registry_.GetSubkeysNumber(-1, world_->path()).value()), 0);
-  EXPECT_EQ(std::get<std::int16_t>(registry_.GetSubkeysNumber(kUser, u"\\" + world_->path()).value()), 0);
+  EXPECT_EQ(std::get<std::int16_t>(registry_.GetSubkeysNumber(kUserRoot, u"\\" + world_->path()).value()), 0);
 }
 
 TEST_P(KeysTest, NameSubkeysFromOneInTheOrderOfTheirUpperCase) {
@@ -82,7 +82,7 @@ TEST_P(KeysTest, GiveNoNameAtAnyOtherPlace) {
        {0, 2, -1, std::numeric_limits<Long>::max(), std::numeric_limits<Long>::min() + 1}) {
     EXPECT_EQ(nameAt(index), u"") << index;
   }
-  EXPECT_EQ(registry_.GetSubKeyName(kUser, inner(u"missing"), 1), u"");
+  EXPECT_EQ(registry_.GetSubKeyName(kUserRoot, inner(u"missing"), 1), u"");
   EXPECT_EQ(registry_.GetSubKeyName(9, world_->path(), 1), u"");
 }
 
@@ -90,7 +90,7 @@ TEST_P(KeysTest, RaiseErrorSixForTheLowestPlaceOfAKeyThatIsThere) {
   put({u"a"});
   constexpr Long kLowest = std::numeric_limits<Long>::min();
   EXPECT_EQ(errorOf([&] { nameAt(kLowest); }), RuntimeError::Overflow);
-  EXPECT_EQ(errorOf([&] { registry_.GetSubKeyName(kUser, inner(u"missing"), kLowest); }), 0);
+  EXPECT_EQ(errorOf([&] { registry_.GetSubKeyName(kUserRoot, inner(u"missing"), kLowest); }), 0);
 }
 
 TEST_P(KeysTest, TakeTheSpacesAtANamesFrontAndLeaveThoseAtItsEnd) {
@@ -142,7 +142,7 @@ TEST_P(KeysTest, FailToDeleteWhatIsNotThere) {
   EXPECT_TRUE(failsToDelete());
   put({u"a"});
   EXPECT_NE(registry_.DeletePath(5, world_->path()).toLong(), 0);
-  EXPECT_NE(registry_.DeletePath(kUser, u"\\" + world_->path()).toLong(), 0);
+  EXPECT_NE(registry_.DeletePath(kUserRoot, u"\\" + world_->path()).toLong(), 0);
   EXPECT_TRUE(has(u"a"));
 }
 
@@ -187,13 +187,13 @@ TEST_P(KeysTest, ComeToAnEndWhereTheFirstNameIsEmpty) {
 
 TEST_P(KeysTest, ComeToAnEndWhereAPathHoldsANul) {
   put({u"a\\b"});
-  EXPECT_EQ(registry_.DeletePath(kUser, world_->path() + u"\0more"s).toLong(), 0);
+  EXPECT_EQ(registry_.DeletePath(kUserRoot, world_->path() + u"\0more"s).toLong(), 0);
   EXPECT_FALSE(isThere());
 }
 
 TEST_P(KeysTest, DeleteNothingByAnEmptyPath) {
   put({u"a"});
-  EXPECT_NE(registry_.DeletePath(kUser, u"").toLong(), 0);
+  EXPECT_NE(registry_.DeletePath(kUserRoot, u"").toLong(), 0);
   EXPECT_TRUE(has(u"a"));
 }
 

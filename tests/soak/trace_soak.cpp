@@ -27,7 +27,7 @@ std::optional<unsigned> number(std::string_view text) {
   return error == std::errc() && behind == text.data() + text.size() ? std::optional(result) : std::nullopt;
 }
 
-std::optional<Arguments> read(int argc, char** argv) {
+std::optional<Arguments> readArguments(int argc, char** argv) {
   if (argc != 5 && argc != 6) return std::nullopt;
   const auto clients = number(argv[2]);
   const auto amount = number(argv[3]);
@@ -72,7 +72,7 @@ int run(const Arguments& arguments) {
 }  // namespace tessaly::soak
 
 int main(int argc, char** argv) {
-  const auto arguments = tessaly::soak::read(argc, argv);
+  const auto arguments = tessaly::soak::readArguments(argc, argv);
   if (!arguments) {
     std::cerr << "Usage: trace-soak <folder for the logs> <clients, 1 to 9> <amount> lines|seconds"
                  " [<average pause after a line, in microseconds>]\n";

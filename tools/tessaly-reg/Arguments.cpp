@@ -43,7 +43,7 @@ std::string lowerCased(std::string_view text) {
   return result;
 }
 
-std::string shown(std::string_view word) { return '"' + tools::visible(word) + '"'; }
+std::string quotedWord(std::string_view word) { return '"' + tools::visible(word) + '"'; }
 
 class Parser {
  public:
@@ -148,7 +148,8 @@ void Parser::store(const std::string& option, const std::string& word) {
   if (!text) return fail("the word behind /" + option + " is no UTF-8");
   if (option == "t") {
     arguments_.type = typeNamed(*text);
-    if (!arguments_.type) fail("there is no type " + shown(word) + "; types are REG_SZ, REG_DWORD and so on");
+    if (!arguments_.type)
+      fail("there is no type " + quotedWord(word) + "; types are REG_SZ, REG_DWORD and so on");
   } else {
     storeText(option, *text);
   }
@@ -192,8 +193,8 @@ bool Parser::looksLikeOption(const std::string& word) const {
 void Parser::plain(const std::string& word) {
   if (syntax_ == nullptr) return command(word);
   if (syntax_->takesKey && !hasKey_) return key(word);
-  if (looksLikeOption(word)) return fail(std::string(syntax_->word) + " has no option " + shown(word));
-  if (!syntax_->takesFile || arguments_.file) return fail("there is a word too many, " + shown(word));
+  if (looksLikeOption(word)) return fail(std::string(syntax_->word) + " has no option " + quotedWord(word));
+  if (!syntax_->takesFile || arguments_.file) return fail("there is a word too many, " + quotedWord(word));
   arguments_.file = word;
   if (word.empty()) fail("the name of the file is empty");
 }
@@ -202,7 +203,7 @@ void Parser::command(const std::string& word) {
   const std::string lower = lowerCased(word);
   const auto* const found = std::find_if(kCommands.begin(), kCommands.end(),
                                          [&](const Syntax& known) { return known.word == lower; });
-  if (found == kCommands.end()) return fail("there is no command " + shown(word));
+  if (found == kCommands.end()) return fail("there is no command " + quotedWord(word));
   syntax_ = found;
   arguments_.command = found->command;
 }
@@ -218,7 +219,7 @@ void Parser::key(const std::string& word) {
   }
   // A shell takes a backslash away where no quotes are around it.
   const bool isUnquoted = text->starts_with(u"HK") && text->find(u'\\') == String::npos;
-  fail(shown(word) +
+  fail(quotedWord(word) +
        (isUnquoted ? " is no key. Put the key in quotes, or the shell takes the backslashes: 'HKCU\\Software'"
                    : " is no key; keys begin with HKLM, HKCU, HKCR, HKU or HKCC"));
 }

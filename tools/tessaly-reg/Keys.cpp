@@ -110,14 +110,14 @@ Long Walk::below(const String& name) {
   return result;
 }
 
-Long deleteTree(KeyStore& store, KeyStore::Id outer, Descent& descent) {
+Long deleteTreeWithin(KeyStore& store, KeyStore::Id outer, Descent& descent) {
   if (const Long result = descent.enter(outer); result != kSuccess) return result;
   std::vector<String> names;
   if (const Long result = store.subkeys(outer, names); result != kSuccess) return result;
   for (const std::u16string_view name : names) {
     KeyStore::Id inner = 0;
     Long result = store.find(outer, {&name, 1}, inner);
-    if (result == kSuccess) result = deleteTree(store, inner, descent);
+    if (result == kSuccess) result = deleteTreeWithin(store, inner, descent);
     if (result != kSuccess) return result;
   }
   descent.leave();
@@ -178,7 +178,7 @@ Long Keys::walk(const FoundKey& key, const std::function<Long(const FoundKey&)>&
 
 Long deleteTree(KeyStore& store, KeyStore::Id outer) {
   Descent descent;
-  return deleteTree(store, outer, descent);
+  return deleteTreeWithin(store, outer, descent);
 }
 
 }  // namespace tessaly::reg

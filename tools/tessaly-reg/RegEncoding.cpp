@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view kLowFirstMark = "\xFF\xFE";
 constexpr std::string_view kHighFirstMark = "\xFE\xFF";
-constexpr std::string_view kOldForm = "REGEDIT4";
+constexpr std::string_view kOldFormBytes = "REGEDIT4";
 
 char16_t unitAt(std::string_view bytes, std::size_t low, std::size_t high) {
   return static_cast<char16_t>(static_cast<unsigned char>(bytes[low]) |
@@ -69,7 +69,7 @@ std::optional<LineError> decodeOldForm(std::string_view bytes, bool isMarked, St
 /// A NUL in 8-bit text is most likely half a character of UTF-16, so it is told before all else.
 std::optional<LineError> decodeBytes(std::string_view bytes, bool isMarked, String& text) {
   if (auto nul = findNul(bytes)) return nul;
-  if (bytes.starts_with(kOldForm)) return decodeOldForm(bytes, isMarked, text);
+  if (bytes.starts_with(kOldFormBytes)) return decodeOldForm(bytes, isMarked, text);
   return decodeUtf8(bytes, text);
 }
 

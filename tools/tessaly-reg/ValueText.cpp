@@ -63,7 +63,7 @@ String shownTexts(std::u16string_view text) {
   return result;
 }
 
-std::string bytesOf(std::uint64_t number, std::size_t size) {
+std::string numberBytes(std::uint64_t number, std::size_t size) {
   std::string bytes;
   for (std::size_t i = 0; i < size; ++i) bytes += static_cast<char>((number >> (8 * i)) & 0xFFU);
   return bytes;
@@ -75,7 +75,7 @@ bool numberValue(std::u16string_view data, std::size_t size, KeyValue& value, st
     fault = "it is no number of " + std::to_string(8 * size) + " bits, in decimal or 0x form";
     return false;
   }
-  value.bytes = bytesOf(*number, size);
+  value.bytes = numberBytes(*number, size);
   if (value.type == kBigEndianNumber) std::reverse(value.bytes.begin(), value.bytes.end());
   return true;
 }

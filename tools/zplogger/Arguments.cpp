@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kSuffixes = "KMG";
 constexpr std::uint64_t kLargestSize = std::uint64_t{1} << 62U;
 
-std::string shown(std::string_view word) { return '"' + tools::visible(word) + '"'; }
+std::string quotedWord(std::string_view word) { return '"' + tools::visible(word) + '"'; }
 
 std::optional<std::uint64_t> wholeNumber(std::string_view word) {
   std::uint64_t number = 0;
@@ -79,7 +79,7 @@ void Parser::option(const std::string& word) {
       followed("--text", word, &Parser::storeText) || followed("--max-size", word, &Parser::storeSize) ||
       followed("--color", word, &Parser::storeColour))
     return;
-  fail((word.starts_with('-') ? "there is no option " : "there is a word too many, ") + shown(word));
+  fail((word.starts_with('-') ? "there is no option " : "there is a word too many, ") + quotedWord(word));
 }
 
 bool Parser::flag(const std::string& word) {
@@ -111,7 +111,7 @@ bool Parser::followed(std::string_view name, const std::string& word,
 
 void Parser::storeLevel(const std::string& word) {
   const auto number = wholeNumber(word);
-  if (!number || *number > 255) return fail(shown(word) + " is no level; levels are 0 to 255");
+  if (!number || *number > 255) return fail(quotedWord(word) + " is no level; levels are 0 to 255");
   arguments_.level = static_cast<std::uint8_t>(*number);
 }
 
@@ -123,7 +123,7 @@ void Parser::storeText(const std::string& word) {
 
 void Parser::storeSize(const std::string& word) {
   const auto number = sizeIn(word);
-  if (!number) return fail(shown(word) + " is no size; sizes are such as 500K, 1M or 2G");
+  if (!number) return fail(quotedWord(word) + " is no size; sizes are such as 500K, 1M or 2G");
   arguments_.maxSize = *number;
 }
 
@@ -135,7 +135,7 @@ void Parser::storeColour(const std::string& word) {
   } else if (word == "never") {
     arguments_.colour = ColourChoice::Never;
   } else {
-    fail("--color is auto, always or never, not " + shown(word));
+    fail("--color is auto, always or never, not " + quotedWord(word));
   }
 }
 

@@ -25,7 +25,7 @@ unicode::CodePoint frontOf(std::u16string_view text) {
   return unicode::frontOf(text).value_or(unicode::CodePoint{unicode::kReplacement, 1});
 }
 
-std::size_t columnsOf(char32_t c) { return isIn(kMarks, c) ? 0 : isIn(kWide, c) ? 2 : 1; }
+std::size_t columnsOfOne(char32_t c) { return isIn(kMarks, c) ? 0 : isIn(kWide, c) ? 2 : 1; }
 
 }  // namespace
 
@@ -33,7 +33,7 @@ std::size_t columnsOf(std::u16string_view text) {
   std::size_t columns = 0;
   while (!text.empty()) {
     const auto front = frontOf(text);
-    columns += columnsOf(front.value);
+    columns += columnsOfOne(front.value);
     text.remove_prefix(front.units);
   }
   return columns;
@@ -43,8 +43,8 @@ String fitting(std::u16string_view text, std::size_t columns) {
   if (columnsOf(text) <= columns) return String(text);
   String result;
   std::size_t used = 1;
-  for (auto front = frontOf(text); used + columnsOf(front.value) <= columns; front = frontOf(text)) {
-    used += columnsOf(front.value);
+  for (auto front = frontOf(text); used + columnsOfOne(front.value) <= columns; front = frontOf(text)) {
+    used += columnsOfOne(front.value);
     result += text.substr(0, front.units);
     text.remove_prefix(front.units);
   }

@@ -12,7 +12,7 @@ constexpr char32_t kErase = 0x08;
 constexpr char32_t kNewLine = 0x0A;
 constexpr char32_t kReturn = 0x0D;
 constexpr char32_t kEraseAll = 0x15;
-constexpr char32_t kEscape = 0x1B;
+constexpr char32_t kEscapeKey = 0x1B;
 constexpr char32_t kDelete = 0x7F;
 constexpr std::size_t kLongestText = 200;
 
@@ -43,7 +43,7 @@ bool Keys::press(char32_t key) {
 
 void Keys::type(char32_t key) {
   const bool isTaken = key == kReturn || key == kNewLine;
-  if (isTaken || key == kEscape) {
+  if (isTaken || key == kEscapeKey) {
     const String text = *std::exchange(typed_, std::nullopt);
     view_.ask(std::nullopt);
     if (isTaken) setFilter(Filter(view_.filter().level(), text));

@@ -10,7 +10,7 @@ namespace tessaly::zplogger {
 namespace {
 
 constexpr std::size_t kMostKnown = 1000;
-constexpr std::size_t kMostTold = 16;
+constexpr std::size_t kMostToldOfAFile = 16;
 constexpr std::int64_t kLookEvery = 1000;
 
 std::uint64_t sum(std::uint64_t left, std::uint64_t right) {
@@ -124,7 +124,7 @@ void LogFiles::append(Entry& entry, const LogPath& log, std::string_view line) {
 }
 
 void LogFiles::tellOnce(Entry& entry, const std::string& notice) {
-  if (entry.told.size() < kMostTold && entry.told.insert(notice).second) tell_(notice);
+  if (entry.told.size() < kMostToldOfAFile && entry.told.insert(notice).second) tell_(notice);
 }
 
 }  // namespace tessaly::zplogger

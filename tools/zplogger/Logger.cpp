@@ -15,7 +15,7 @@ String nameOf(const Sender& sender, const Client* client) {
   return tools::hexDigits(sender.clientId, 1, tools::HexLetters::Capital);
 }
 
-std::string shown(const Sender& sender, const Client* client) {
+std::string shownClient(const Sender& sender, const Client* client) {
   const std::string name = tools::visible(nameOf(sender, client));
   return sender.process == 0 ? name : name + " (process " + std::to_string(sender.process) + ')';
 }
@@ -26,7 +26,7 @@ void Logger::addClient(const Sender& sender, const ClientRecord& record) {
   if (!clients_.add(sender, record)) return;
   const Client& client = *clients_.find(sender);
   const bool hasLog = files_ != nullptr && !client.log.path.empty();
-  view_.tell(shown(sender, &client) + " is here" +
+  view_.tell(shownClient(sender, &client) + " is here" +
              (hasLog ? "; its lines go to " + tools::visible(client.log.path) : std::string()));
   if (files_ != nullptr && !client.log.fault.empty())
     view_.tell("can't write to " + tools::inQuotes(record.logFile) + ": " + client.log.fault);
@@ -42,11 +42,11 @@ void Logger::trace(const Sender& sender, const TraceRecord& record) {
 }
 
 void Logger::deleteClient(const Sender& sender) {
-  if (const auto client = clients_.remove(sender)) view_.tell(shown(sender, &*client) + " has left");
+  if (const auto client = clients_.remove(sender)) view_.tell(shownClient(sender, &*client) + " has left");
 }
 
 void Logger::fault(const Sender& sender, std::string_view why) {
-  const std::string notice = shown(sender, clients_.find(sender)) + ": " + std::string(why);
+  const std::string notice = shownClient(sender, clients_.find(sender)) + ": " + std::string(why);
   if (told_.size() < kMostTold && told_.insert(notice).second) view_.tell(notice);
 }
 

@@ -11,7 +11,7 @@ namespace tessaly::zplogger {
 namespace {
 
 /// As clients look at titles: blanks before the name and whatever stands behind it do not matter to them.
-Long lookAt(platform::WindowHandle window, Long& isFound) {
+Long lookAtWindow(platform::WindowHandle window, Long& isFound) {
   std::array<char, 1000> buffer{};
   const Long length =
       platform::core().messages->GetWindowTextA(window, buffer.data(), static_cast<Long>(buffer.size()));
@@ -26,7 +26,7 @@ Long lookAt(platform::WindowHandle window, Long& isFound) {
 
 bool isLoggerThere() {
   Long isFound = 0;
-  platform::core().messages->EnumWindows(&lookAt, isFound);
+  platform::core().messages->EnumWindows(&lookAtWindow, isFound);
   return isFound != 0;
 }
 

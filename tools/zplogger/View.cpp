@@ -7,7 +7,7 @@ namespace tessaly::zplogger {
 namespace {
 
 /// So that keys act soon while many lines come.
-constexpr std::size_t kMostAtOnce = 200;
+constexpr std::size_t kMostEntriesAtOnce = 200;
 constexpr std::size_t kMostAnswers = 100;
 
 /// How often the number of lines that wait is told anew.
@@ -100,7 +100,7 @@ View::Work View::next() {
   isStatusNew_ = false;
   Work work;
   work.entries = std::exchange(answers_, {});
-  while ((isFinishing_ || !status_.isHeld()) && work.entries.size() < kMostAtOnce) {
+  while ((isFinishing_ || !status_.isHeld()) && work.entries.size() < kMostEntriesAtOnce) {
     auto entry = queue_.pop();
     if (!entry) break;
     const Line* line = std::get_if<Line>(&*entry);

@@ -8,10 +8,10 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr std::int64_t kLongestSide = 32767;
+constexpr std::int64_t kLongestHint = 32767;
 
 int withBothBorders(Long side, Long border) {
-  return static_cast<int>(std::min(side + 2 * std::max<std::int64_t>(border, 0), kLongestSide));
+  return static_cast<int>(std::min(side + 2 * std::max<std::int64_t>(border, 0), kLongestHint));
 }
 
 }  // namespace

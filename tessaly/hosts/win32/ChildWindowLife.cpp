@@ -10,7 +10,7 @@ namespace {
 
 constexpr wchar_t kProperty[] = L"Tessaly control";
 constexpr LRESULT kNoWindow = -1;
-constexpr std::int16_t kArrow = 1;
+constexpr std::int16_t kArrowPointer = 1;
 
 bool isOfThisProcess(HWND window) {
   DWORD process = 0;
@@ -30,7 +30,7 @@ bool registerKind(HINSTANCE module, const ControlKind& kind, WNDPROC procedure) 
   description.lpfnWndProc = procedure;
   description.cbWndExtra = sizeof(ChildWindow*);
   description.hInstance = module;
-  description.hCursor = systemCursor(kArrow);
+  description.hCursor = systemCursor(kArrowPointer);
   description.lpszClassName = kind.className;
   return RegisterClassExW(&description) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kLongestName = 255;
 
-char upperCased(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+char upperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 }  // namespace
 
@@ -20,7 +20,7 @@ bool Messages::fails(const char* call) {
 std::uint32_t Messages::RegisterWindowMessageA(const char* name) {
   std::string key = name != nullptr ? name : "";
   if (fails(__func__) || key.empty() || key.size() > kLongestName) return 0;
-  std::transform(key.begin(), key.end(), key.begin(), upperCased);
+  std::transform(key.begin(), key.end(), key.begin(), upperAscii);
   const auto next = static_cast<std::uint32_t>(kFirstRegistered + numbers_.size());
   return numbers_.try_emplace(key, next).first->second;
 }

@@ -8,7 +8,7 @@ namespace {
 
 using namespace registry_result;
 
-String upperCased(std::u16string_view name) { return core().locale->CharUpperW(name); }
+String upperName(std::u16string_view name) { return core().locale->CharUpperW(name); }
 
 }  // namespace
 
@@ -29,7 +29,7 @@ Long MemoryKeys::descend(Id from, KeyPath path, bool make, Id& key) {
   if (keyOf(from) == nullptr) return kKeyDeleted;
   for (const std::u16string_view name : path) {
     Key& parent = keys_[from];
-    const auto [subkey, missing] = parent.subkeys.try_emplace(upperCased(name), next_);
+    const auto [subkey, missing] = parent.subkeys.try_emplace(upperName(name), next_);
     if (missing && !make) {
       parent.subkeys.erase(subkey);
       return kNotFound;
@@ -62,7 +62,7 @@ Long MemoryKeys::remove(Id from, KeyPath path) {
   if (const Long result = find(from, path, key); result != kSuccess) return result;
   const Key& gone = keys_[key];
   if (!writable_ || key == kRoot || !gone.subkeys.empty()) return kAccessDenied;
-  keys_[gone.parent].subkeys.erase(upperCased(gone.name));
+  keys_[gone.parent].subkeys.erase(upperName(gone.name));
   keys_.erase(key);
   return changed();
 }
@@ -78,7 +78,7 @@ Long MemoryKeys::subkeys(Id key, std::vector<String>& names) {
 Long MemoryKeys::value(Id key, std::u16string_view name, KeyValue& value) {
   const Key* const found = keyOf(key);
   if (found == nullptr) return kKeyDeleted;
-  const auto named = found->values.find(upperCased(name));
+  const auto named = found->values.find(upperName(name));
   if (named == found->values.end()) return kNotFound;
   value = named->second.value;
   return kSuccess;
@@ -88,7 +88,7 @@ Long MemoryKeys::setValue(Id key, std::u16string_view name, const KeyValue& valu
   Key* const found = keyOf(key);
   if (found == nullptr) return kKeyDeleted;
   if (!writable_) return kAccessDenied;
-  const auto [named, missing] = found->values.try_emplace(upperCased(name), NamedValue{String(name), value});
+  const auto [named, missing] = found->values.try_emplace(upperName(name), NamedValue{String(name), value});
   if (!missing) named->second.value = value;
   return changed();
 }
@@ -97,7 +97,7 @@ Long MemoryKeys::removeValue(Id key, std::u16string_view name) {
   Key* const found = keyOf(key);
   if (found == nullptr) return kKeyDeleted;
   if (!writable_) return kAccessDenied;
-  return found->values.erase(upperCased(name)) != 0 ? changed() : kNotFound;
+  return found->values.erase(upperName(name)) != 0 ? changed() : kNotFound;
 }
 
 Long MemoryKeys::values(Id key, std::vector<NamedValue>& values) {

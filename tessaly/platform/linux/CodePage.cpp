@@ -6,10 +6,11 @@
 #include <memory>
 #include <mutex>
 
+#include "tessaly/platform/Ansi.h"
+
 namespace tessaly::platform {
 namespace {
 
-constexpr unsigned kFirstOther = 0x80;
 constexpr unsigned kBytes = 0x100;
 constexpr std::size_t kUnits = 0x10000;
 
@@ -115,8 +116,8 @@ CodePage::CodePage(const Source& source) : unknown_(source.unknown), codes_(kUni
 void CodePage::readBytes(const Converter& icu) {
   leads_ = icu.leads();
   const bool hasPairs = std::find(leads_.begin(), leads_.end(), true) != leads_.end();
-  if (hasPairs) pairs_.assign(std::size_t{kBytes - kFirstOther} << 8, unknown_);
-  for (unsigned byte = kFirstOther; byte < kBytes; ++byte) {
+  if (hasPairs) pairs_.assign(std::size_t{kBytes - kFirstNotAscii} << 8, unknown_);
+  for (unsigned byte = kFirstNotAscii; byte < kBytes; ++byte) {
     if (leads_[byte]) {
       readPairs(icu, byte);
     } else if (const char16_t unit = icu.unitOf(byte)) {
@@ -132,7 +133,7 @@ void CodePage::readPairs(const Converter& icu, unsigned lead) {
 }
 
 void CodePage::putOwnBytes(Long number) {
-  for (unsigned byte = 0; byte < kFirstOther; ++byte) put(byte, static_cast<char16_t>(byte));
+  for (unsigned byte = 0; byte < kFirstNotAscii; ++byte) put(byte, static_cast<char16_t>(byte));
   for (const OwnBytes& own : kOwnBytes) {
     if (own.page != number) continue;
     for (unsigned i = 0; i <= own.last - own.first; ++i)

@@ -14,8 +14,8 @@
 namespace tessaly::platform {
 namespace {
 
-constexpr mode_t kMode = 0600;
-constexpr int kMostTries = 100;
+constexpr mode_t kEndpointMode = 0600;
+constexpr int kMostNumbersTried = 100;
 
 WindowHandle randomNumber() {
   std::uint32_t number = 0;
@@ -28,12 +28,13 @@ WindowHandle randomNumber() {
 ChannelDescriptor makeTitle(const EndpointFolder& folder, WindowHandle& window) {
   ChannelDescriptor title;
   errno = EEXIST;
-  for (int tries = 0; !title.isOpen() && errno == EEXIST && tries < kMostTries; ++tries) {
+  for (int tries = 0; !title.isOpen() && errno == EEXIST && tries < kMostNumbersTried; ++tries) {
     do window = randomNumber();
     while (window == 0);
     const std::string name = EndpointFolder::titleName(window);
     title = ChannelDescriptor::opened([&] {
-      return openat(folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kMode);
+      return openat(folder.get(), name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                    kEndpointMode);
     });
   }
   return title;
@@ -59,7 +60,7 @@ bool Endpoint::write(std::string_view text) const {
   timespec times[2] = {};
   if (clock_gettime(CLOCK_REALTIME, &times[0]) != 0) return false;
   times[1] = times[0];
-  return fchmod(title_.get(), kMode) == 0 &&
+  return fchmod(title_.get(), kEndpointMode) == 0 &&
          ::write(title_.get(), text.data(), text.size()) == static_cast<ssize_t>(text.size()) &&
          futimens(title_.get(), times) == 0;
 }
@@ -71,7 +72,8 @@ bool Endpoint::listen() {
       [] { return socket(AF_UNIX, SOCK_SEQPACKET | SOCK_NONBLOCK | SOCK_CLOEXEC, 0); });
   return listener_.isOpen() &&
          bind(listener_.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
-         fchmodat(folder_.get(), name.c_str(), kMode, 0) == 0 && ::listen(listener_.get(), SOMAXCONN) == 0;
+         fchmodat(folder_.get(), name.c_str(), kEndpointMode, 0) == 0 &&
+         ::listen(listener_.get(), SOMAXCONN) == 0;
 }
 
 /// Where a fork has closed the title, the window is the parent's; so it is where the object was moved away.

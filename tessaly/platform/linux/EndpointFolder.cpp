@@ -19,7 +19,6 @@
 namespace tessaly::platform {
 namespace {
 
-constexpr WindowHandle kLastWindow = 0x7FFFFFFF;
 constexpr std::size_t kDigits = 8;
 constexpr std::size_t kMostTitleBytes = 65536;
 constexpr std::string_view kTitleEnd = ".title";

@@ -11,6 +11,9 @@
 
 namespace tessaly::platform {
 
+/// The numbers of windows are 1 to this one.
+inline constexpr WindowHandle kLastWindow = 0x7FFFFFFF;
+
 /// The folder where the user's windows are. A window with number N has two files there, by N's eight
 /// lower-case hexadecimal digits: N.title with its title in UTF-8, which its process keeps locked as long as
 /// the window lives, and N.socket that it listens on. Who makes a window has a shared lock on the folder

@@ -15,7 +15,6 @@ namespace {
 using namespace registry_result;
 using Clock = std::chrono::steady_clock;
 
-constexpr int kMostTries = 3;
 constexpr int kCounterPlace = 24;
 constexpr int kVersionsPlace = 18;
 constexpr char kJournalVersion = 1;

@@ -16,6 +16,9 @@ namespace tessaly::platform {
 inline constexpr std::chrono::seconds kLongestRead(5);
 inline constexpr std::chrono::seconds kLongestWrite(30);
 
+/// How often work on a hive is tried that fails only because the file was changed or replaced meanwhile.
+inline constexpr int kMostTries = 3;
+
 /// A hive's file while it is open: which file it is, and the state that it was in when it was read.
 class HiveFile {
  public:

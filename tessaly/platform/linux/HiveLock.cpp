@@ -14,7 +14,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr off_t kTurn = 0;
 constexpr off_t kWork = 1;
-constexpr std::chrono::microseconds kPause(100);
+constexpr std::chrono::microseconds kBetweenLooks(100);
 
 bool changeLock(int file, off_t place, short type) {
   struct flock lock {};
@@ -31,7 +31,7 @@ Long lockUntil(int file, off_t place, Clock::time_point end) {
     const bool isTaken = errno == EAGAIN || errno == EACCES || errno == EINTR;
     if (!isTaken) return registry_result::kIoFailed;
     if (Clock::now() >= end) return registry_result::kBusy;
-    std::this_thread::sleep_for(kPause);
+    std::this_thread::sleep_for(kBetweenLooks);
   }
   return registry_result::kSuccess;
 }

@@ -19,11 +19,10 @@ using namespace registry_result;
 using Path = std::filesystem::path;
 
 constexpr std::size_t kMostFaults = 20;
-constexpr int kMostTries = 3;
 
 Path withEnding(Path name, std::string_view ending) { return name += ending; }
 
-std::string bytesOf(const Path& file) {
+std::string contentOf(const Path& file) {
   std::ifstream in(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
@@ -53,7 +52,7 @@ Long readWhole(HiveFile& file, std::string& bytes) {
     sqlite::run(copy.get(), "PRAGMA schema_version");
   }
   copy.reset();
-  bytes = bytesOf(copyIn(folder));
+  bytes = contentOf(copyIn(folder));
   return kSuccess;
 }
 
@@ -107,7 +106,7 @@ Path freePath(const Path& wanted) {
 
 /// The damaged file keeps all its bytes under another name. Its journal goes first: the new hive must not be
 /// taken back to what stands in there.
-Long exchange(const Path& hive, const Path& made, const Path& damaged) {
+Long putInPlace(const Path& hive, const Path& made, const Path& damaged) {
   const Path journal = withEnding(hive, "-journal");
   // Where a file can't have two names, there is none for the hive for a moment.
   const bool isKept = link(hive.c_str(), damaged.c_str()) == 0 || rename(hive.c_str(), damaged.c_str()) == 0;
@@ -140,7 +139,7 @@ std::vector<std::string> hiveFaults(const std::filesystem::path& path) {
   if (copied == kNotFound) return {};
   if (copied != kSuccess) return {wordsFor(copied)};
   if (!file.hasJournalModeOfHives()) return {"it is in a journal mode that hives don't have"};
-  if (isOfLaterVersion(bytesOf(copyIn(folder)))) return {"it was made by a later version"};
+  if (isOfLaterVersion(contentOf(copyIn(folder)))) return {"it was made by a later version"};
   sqlite::Database copy;
   Long result = sqlite::resultOf(sqlite::open(copyIn(folder), SQLITE_OPEN_READWRITE, copy));
   if (result == kSuccess) result = hive::checkTables(copy.get());
@@ -168,7 +167,7 @@ Long repairHive(const std::filesystem::path& path, HiveRepair& repair) {
   const Path made = withEnding(target, ".repaired");
   if (const Long failure = writeNew(rows, made, before); failure != kSuccess) return failure;
   repair = {rows.keys.size(), rows.values.size(), freePath(withEnding(target, ".damaged"))};
-  return exchange(target, made, repair.damaged);
+  return putInPlace(target, made, repair.damaged);
 }
 
 }  // namespace tessaly::platform

@@ -15,7 +15,7 @@ using Id = KeyStore::Id;
 
 constexpr std::string_view kLostAndFound = "Lost and found";
 
-std::string upperOf(std::string_view name) { return toUtf8(upperCased(fromUtf8(name))); }
+std::string upperName(std::string_view name) { return toUtf8(upperCased(fromUtf8(name))); }
 
 bool asKey(const std::vector<PageColumn>& columns, hive::KeyRow& row) {
   if (columns.size() != 5) return false;
@@ -58,12 +58,12 @@ class LostKeys {
   void adopt(hive::KeyRow& key) {
     key.parent = home();
     key.name = freeName(key.name);
-    key.upper = upperOf(key.name);
+    key.upper = upperName(key.name);
   }
 
   void addKeyFor(Id lost) {
     hive::KeyRow key{home(), {}, freeName("Values"), lost};
-    key.upper = upperOf(key.name);
+    key.upper = upperName(key.name);
     rows_->keys.push_back(std::move(key));
   }
 
@@ -72,7 +72,7 @@ class LostKeys {
     if (home_ == 0) {
       home_ = HiveRows::newId();
       std::string name = freeNameIn(namesOfRoot(), kLostAndFound);
-      std::string upper = upperOf(name);
+      std::string upper = upperName(name);
       rows_->keys.push_back({KeyStore::kRoot, std::move(upper), std::move(name), home_});
     }
     return home_;
@@ -88,15 +88,15 @@ class LostKeys {
 
   static std::string freeNameIn(const std::set<std::string>& taken, std::string_view wanted) {
     std::string name(wanted);
-    for (int number = 2; taken.contains(upperOf(name)); ++number) name = numbered(wanted, number);
+    for (int number = 2; taken.contains(upperName(name)); ++number) name = numbered(wanted, number);
     return name;
   }
 
   /// Goes on counting where it was before for the same name.
   std::string freeName(std::string_view wanted) {
     std::string name(wanted);
-    int& number = counts_[upperOf(wanted)];
-    while (!taken_.insert(upperOf(name)).second) name = numbered(wanted, ++number + 1);
+    int& number = counts_[upperName(wanted)];
+    while (!taken_.insert(upperName(name)).second) name = numbered(wanted, ++number + 1);
     return name;
   }
 

@@ -10,8 +10,6 @@ namespace {
 
 using namespace registry_result;
 
-constexpr int kMostTries = 3;
-
 /// One look at the file serves the opening of a key and the read that follows at once. It can't miss a write
 /// that has returned: from the moment that the file shows a change to the writer's return there are several
 /// system calls, which take longer.

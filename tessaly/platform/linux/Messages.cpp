@@ -33,7 +33,7 @@ OfThread* ofThread() {
   return &owner.its;
 }
 
-char upperCased(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+char upperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 std::intptr_t sendFrom(OfThread& thread, WindowHandle window, const MessagePacket& packet) {
   if (MessageHandler* handler = thread.windows.handlerOf(window)) {
@@ -48,7 +48,7 @@ class OwnMessages : public Messages {
   std::uint32_t RegisterWindowMessageA(const char* name) override {
     std::string upper = name != nullptr ? name : "";
     if (upper.empty() || upper.size() > kLongestName) return 0;
-    std::transform(upper.begin(), upper.end(), upper.begin(), upperCased);
+    std::transform(upper.begin(), upper.end(), upper.begin(), upperAscii);
     const std::uint32_t number = fnv32(upper);
     return number < kFirstRegistered ? number + kFirstRegistered : number;
   }
@@ -108,7 +108,7 @@ class OwnMessages : public Messages {
 };
 
 // Made when the program starts, before a thread could while another forks.
-[[maybe_unused]] const Messages& atStart = ownMessages();
+[[maybe_unused]] const Messages& messagesAtStart = ownMessages();
 
 }  // namespace
 

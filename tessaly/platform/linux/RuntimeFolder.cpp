@@ -11,7 +11,6 @@ namespace tessaly::platform {
 namespace {
 
 constexpr mode_t kOwnersRights = 0700;
-constexpr mode_t kOthersRights = 0077;
 
 /// Of a program that runs with another's rights the environment is not believed.
 std::string folderFromEnvironment(const char* name) {

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 
 #include "tessaly/platform/linux/ChannelDescriptor.h"
 
 namespace tessaly::platform {
+
+/// What users other than the owner may do with a file.
+inline constexpr mode_t kOthersRights = 0077;
 
 /// Where the channel's files of this user are: "tessaly" in `$XDG_RUNTIME_DIR`, where that is the absolute
 /// path of a folder that the user owns, and otherwise "tessaly-" with the user's number in `$TMPDIR`, or in

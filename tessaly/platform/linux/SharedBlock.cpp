@@ -17,11 +17,10 @@
 namespace tessaly::platform {
 namespace {
 
-constexpr mode_t kMode = 0600;
-constexpr mode_t kOthersRights = 0077;
+constexpr mode_t kBlockMode = 0600;
 
 /// Each try fails only because another holder came or went meanwhile.
-constexpr int kMostTries = 1000;
+constexpr int kMostSteps = 1000;
 
 /// The channel's folder is in the name, so users and sessions don't meet.
 std::string pathOf(const std::string& name) {
@@ -40,7 +39,7 @@ struct stat statusOf(const Descriptor& file) {
 bool isRemoved(const Descriptor& file) { return statusOf(file).st_nlink == 0; }
 
 /// A file that somebody else might have put there is left alone.
-bool isOwn(const Descriptor& file) {
+bool isOwnBlock(const Descriptor& file) {
   const struct stat status = statusOf(file);
   return S_ISREG(status.st_mode) && status.st_uid == geteuid() && (status.st_mode & kOthersRights) == 0 &&
          status.st_nlink <= 1;
@@ -57,7 +56,7 @@ class Search {
   Step step() {
     file_ = openFile();
     if (!file_.isOpen()) return mayPass(errno) ? Step::Again : Step::Failed;
-    if (!isOwn(file_)) return Step::Failed;
+    if (!isOwnBlock(file_)) return Step::Failed;
     if (lockFile(file_.get(), LOCK_EX | LOCK_NB)) {
       if (isRemoved(file_)) return Step::Again;
       if (!renew()) return Step::Failed;
@@ -75,8 +74,8 @@ class Search {
 
   Descriptor openFile() const {
     if (makes()) {
-      Descriptor made(shm_open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL, kMode));
-      if (made.isOpen()) fchmod(made.get(), kMode);
+      Descriptor made(shm_open(path_.c_str(), O_RDWR | O_CREAT | O_EXCL, kBlockMode));
+      if (made.isOpen()) fchmod(made.get(), kBlockMode);
       if (made.isOpen() || errno != EEXIST) return made;
     }
     return Descriptor(shm_open(path_.c_str(), O_RDWR, 0));
@@ -107,7 +106,7 @@ std::shared_ptr<const SharedBlock> find(const std::string& name, std::size_t siz
   if (name.empty() || name.find('/') != std::string::npos) return nullptr;
   const std::string path = pathOf(name);
   Search search(path, size);
-  for (int tries = 0; tries < kMostTries; ++tries) {
+  for (int tries = 0; tries < kMostSteps; ++tries) {
     const Search::Step step = search.step();
     if (step == Search::Step::Found) return std::make_shared<const SharedBlock>(path, search.take());
     if (step == Search::Step::Failed) return nullptr;
@@ -129,7 +128,7 @@ void SharedBlock::letGo() const {
   if (!file_.isOpen()) return;
   { const Descriptor closed = std::move(file_); }
   const Descriptor last(shm_open(path_.c_str(), O_RDWR, 0));
-  if (last.isOpen() && isOwn(last) && lockFile(last.get(), LOCK_EX | LOCK_NB) && !isRemoved(last))
+  if (last.isOpen() && isOwnBlock(last) && lockFile(last.get(), LOCK_EX | LOCK_NB) && !isRemoved(last))
     shm_unlink(path_.c_str());
 }
 

@@ -111,7 +111,7 @@ class Mappings : public SharedMemory {
 };
 
 // Made when the program starts, before a thread could while another forks.
-[[maybe_unused]] const SharedMemory& atStart = ownSharedMemory();
+[[maybe_unused]] const SharedMemory& memoryAtStart = ownSharedMemory();
 
 }  // namespace
 

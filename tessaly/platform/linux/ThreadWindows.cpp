@@ -11,13 +11,12 @@ namespace {
 /// An event's source: what was posted, a window that somebody connects to, or a sender. Senders' numbers lie
 /// above all windows' and are never given twice.
 constexpr std::uint64_t kPosted = 0;
-constexpr std::uint64_t kLastWindow = 0x7FFFFFFF;
 
 /// Further senders wait until one goes. The process needs descriptors for other things too.
 constexpr std::size_t kMostSenders = 500;
 
 /// When to look again whether there are descriptors.
-constexpr std::chrono::milliseconds kPause(100);
+constexpr std::chrono::milliseconds kPauseForDescriptors(100);
 
 bool isForWantOfDescriptors(int error) {
   return error == EMFILE || error == ENFILE || error == ENOBUFS || error == ENOMEM;
@@ -95,7 +94,7 @@ void ThreadWindows::listenFor(std::uint32_t events) {
 /// One that can't be taken would be told again and again.
 void ThreadWindows::pause() {
   listenFor(0);
-  pausedUntil_ = Clock::now() + kPause;
+  pausedUntil_ = Clock::now() + kPauseForDescriptors;
 }
 
 void ThreadWindows::endPause() {
@@ -104,7 +103,9 @@ void ThreadWindows::endPause() {
   pausedUntil_.reset();
 }
 
-int ThreadWindows::patience() const { return pausedUntil_ ? static_cast<int>(kPause.count()) : -1; }
+int ThreadWindows::patience() const {
+  return pausedUntil_ ? static_cast<int>(kPauseForDescriptors.count()) : -1;
+}
 
 bool ThreadWindows::handleNext(int timeout) {
   if (pausedUntil_) endPause();

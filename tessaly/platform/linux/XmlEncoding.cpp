@@ -52,7 +52,7 @@ bool isEncodingName(std::string_view name) {
 
 /// Whether a converter is for text that a document may be declared in: no ISO 2022, UTF-7 or the like, whose
 /// bytes mean something else from place to place and can hide markup.
-bool isPlain(const UConverter* converter) {
+bool mayBeDeclared(const UConverter* converter) {
   switch (ucnv_getType(converter)) {
     case UCNV_SBCS:
     case UCNV_DBCS:
@@ -71,7 +71,7 @@ std::optional<std::string> converted(std::string_view text, const char* encoding
   if (text.size() > INT32_MAX / kGrowth) return std::nullopt;
   UErrorCode error = U_ZERO_ERROR;
   const std::unique_ptr<UConverter, CloseConverter> converter(ucnv_open(encoding, &error));
-  if (U_FAILURE(error) || !isPlain(converter.get())) return std::nullopt;
+  if (U_FAILURE(error) || !mayBeDeclared(converter.get())) return std::nullopt;
   ucnv_setToUCallBack(converter.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr, &error);
   std::string result(text.size() * kGrowth, '\0');
   const std::int32_t length =

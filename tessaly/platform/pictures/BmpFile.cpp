@@ -4,7 +4,6 @@
 namespace tessaly::platform {
 namespace {
 
-constexpr std::size_t kFileHeader = 14;
 constexpr std::size_t kOffsetOfPixels = 10;
 
 bool isPackedByRuns(const DibHeader& header) {
@@ -31,13 +30,13 @@ std::optional<std::string> plainFile(const DibHeader& header, const ByteView& di
 
 std::optional<PictureFile> bmpPicture(std::string_view bytes) {
   const ByteView file(bytes);
-  const ByteView dib(file.from(kFileHeader));
+  const ByteView dib(file.from(kBmpFileHeader));
   std::optional<DibHeader> header = dibHeader(dib);
   if (!header || !isPictureSize(header->width, header->height)) return {};
   const std::size_t offset = file.number(kOffsetOfPixels);
-  if (offset < kFileHeader + header->size || offset > file.size()) return {};
+  if (offset < kBmpFileHeader + header->size || offset > file.size()) return {};
   // A palette may be shorter than it says, and ends where the pixels begin.
-  header->colours = std::min(header->colours, (offset - kFileHeader - header->size) / header->colourSize);
+  header->colours = std::min(header->colours, (offset - kBmpFileHeader - header->size) / header->colourSize);
   std::optional<std::string> plain = plainFile(*header, dib, ByteView(file.from(offset)));
   if (!plain) return {};
   return PictureFile{PictureFormat::Bmp, std::move(*plain), static_cast<Long>(header->width),

@@ -12,7 +12,6 @@ constexpr std::uint32_t kMaskHeader = 56;
 constexpr std::uint32_t kColourHeader = 108;
 constexpr std::uint32_t kHeaders[] = {kOldHeader,   kPlainHeader,  52, kMaskHeader,
                                       kOtherHeader, kColourHeader, 124};
-constexpr std::size_t kFileHeader = 14;
 
 bool isOneOf(std::uint32_t value, std::initializer_list<std::uint32_t> values) {
   return std::find(values.begin(), values.end(), value) != values.end();
@@ -109,7 +108,7 @@ std::optional<DibHeader> dibHeader(const ByteView& dib) {
 
 std::string bmpFile(const DibHeader& header, const ByteView& dib, std::string_view rows) {
   const std::string front = headerBytes(header) + palette(header, dib);
-  const std::size_t offset = kFileHeader + front.size();
+  const std::size_t offset = kBmpFileHeader + front.size();
   std::string file = "BM";
   file.reserve(offset + rows.size());
   addNumber(file, static_cast<std::uint32_t>(offset + rows.size()));

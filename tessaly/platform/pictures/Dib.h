@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -11,6 +12,9 @@
 
 /// Bitmaps as they stand in BMP files and in icons.
 namespace tessaly::platform {
+
+/// How long the header is that a BMP file has before its bitmap.
+inline constexpr std::size_t kBmpFileHeader = 14;
 
 enum class DibPacking : std::uint8_t { None = 0, Runs8 = 1, Runs4 = 2, Masks = 3 };
 

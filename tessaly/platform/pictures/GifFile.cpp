@@ -10,7 +10,7 @@ constexpr std::size_t kScreen = 7;
 constexpr std::size_t kDescriptor = 10;
 constexpr std::uint32_t kExtension = 0x21;
 constexpr std::uint32_t kImage = 0x2C;
-constexpr std::uint32_t kEnd = 0x3B;
+constexpr std::uint32_t kTrailer = 0x3B;
 constexpr std::uint32_t kGraphicControl = 0xF9;
 
 std::size_t paletteSize(std::uint32_t flags) {
@@ -35,7 +35,7 @@ class Blocks {
     if (!take(kMark + kScreen)) return false;
     frame.palette = file_.part(at_, paletteSize(file_.byte(10)));
     if (!take(paletteSize(file_.byte(10)))) return false;
-    while (file_.byte(at_) != kEnd) {
+    while (file_.byte(at_) != kTrailer) {
       if (!readBlock()) return false;
     }
     return true;
@@ -109,7 +109,7 @@ std::string fileOf(const FirstFrame& frame, std::string_view screen) {
   file += std::string(4, '\0');
   file += frame.descriptor.substr(5);
   file += frame.content;
-  file += static_cast<char>(kEnd);
+  file += static_cast<char>(kTrailer);
   return file;
 }
 

@@ -6,7 +6,7 @@ namespace {
 
 /// Marks, the byte behind FF.
 constexpr std::uint32_t kStart = 0xD8;
-constexpr std::uint32_t kEnd = 0xD9;
+constexpr std::uint32_t kEndOfImage = 0xD9;
 constexpr std::uint32_t kScan = 0xDA;
 constexpr std::uint32_t kFirstRestart = 0xD0;
 constexpr std::uint32_t kLastRestart = 0xD7;
@@ -36,7 +36,7 @@ class Segments {
       // Any number of FF may stand before a mark.
       while (file_.byte(at) == 0xFF && file_.byte(at + 1) == 0xFF) ++at;
       const std::uint32_t mark = file_.byte(at) == 0xFF ? file_.byte(at + 1) : 0;
-      if (mark == kEnd) {
+      if (mark == kEndOfImage) {
         add(at, 2);
         return hasScan_;
       }

@@ -64,7 +64,7 @@ OwnedSurface makeSurface(Long width, Long height) {
   return OwnedSurface(context.release());
 }
 
-PixelView pixelsOf(HDC context) {
+PixelView viewOf(HDC context) {
   const BITMAP bitmap = bitmapOf(context);
   if (bitmap.bmBits == nullptr) return {};
   // What was drawn may still wait to be.
@@ -109,8 +109,7 @@ bool copyApart(HDC target, const Area& to, HDC source, const Area& from, COLORRE
   if (visibleColumns.isEmpty() || visibleRows.isEmpty()) return true;
   const OwnedSurface apart = makeSurface(visibleColumns.size(), visibleRows.size());
   if (!apart) return false;
-  scale(pixelsOf(apart.get()), pixelsOf(source), columns, rows, visibleColumns.first, visibleRows.first,
-        from);
+  scale(viewOf(apart.get()), viewOf(source), columns, rows, visibleColumns.first, visibleRows.first, from);
   return copyUnscaled(target, visibleColumns.first, visibleRows.first, apart.get(),
                       {0, 0, visibleColumns.size(), visibleRows.size()}, key);
 }
@@ -126,7 +125,7 @@ class WindowsDrawing final : public Drawing {
     if (isSurface(surface)) deleteSurfaceOf(contextOf(surface));
   }
 
-  PixelView pixels(DeviceContext surface) override { return pixelsOf(contextOf(surface)); }
+  PixelView pixels(DeviceContext surface) override { return viewOf(contextOf(surface)); }
 
   bool TransparentBlt(DeviceContext target, Long x, Long y, Long width, Long height, DeviceContext source,
                       Long sourceX, Long sourceY, Long sourceWidth, Long sourceHeight, Long key) override {

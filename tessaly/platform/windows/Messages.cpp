@@ -10,7 +10,7 @@
 namespace tessaly::platform {
 namespace {
 
-HWND native(WindowHandle window) { return reinterpret_cast<HWND>(window); }
+HWND nativeWindow(WindowHandle window) { return reinterpret_cast<HWND>(window); }
 
 /// A walk over the windows: no exception may pass through the system, so one waits here for its end.
 struct Walk {
@@ -44,12 +44,12 @@ class WindowsMessages final : public Messages {
 
   std::intptr_t SendMessageA(WindowHandle window, std::uint32_t message, std::uintptr_t wParam,
                              std::intptr_t lParam) override {
-    return ::SendMessageA(native(window), message, wParam, lParam);
+    return ::SendMessageA(nativeWindow(window), message, wParam, lParam);
   }
 
   Long GetWindowLongA(WindowHandle window, Long index) override {
     // Indexes below 0 that hold handles are refused by the 32-bit call.
-    return folded(::GetWindowLongPtrA(native(window), index));
+    return folded(::GetWindowLongPtrA(nativeWindow(window), index));
   }
 
   bool EnumWindows(WindowCallback callback, Long& value) override {
@@ -60,14 +60,14 @@ class WindowsMessages final : public Messages {
   }
 
   Long GetWindowTextA(WindowHandle window, char* buffer, Long size) override {
-    return ::GetWindowTextA(native(window), buffer, size);
+    return ::GetWindowTextA(nativeWindow(window), buffer, size);
   }
 
   WindowHandle CreateWindowExA(const char* title, MessageHandler& handler) override {
     return reinterpret_cast<WindowHandle>(makeHandlerWindow(title, handler));
   }
 
-  bool DestroyWindow(WindowHandle window) override { return ::DestroyWindow(native(window)); }
+  bool DestroyWindow(WindowHandle window) override { return ::DestroyWindow(nativeWindow(window)); }
 
   std::uint32_t GetMessageA() override {
     MSG message{};
@@ -81,8 +81,8 @@ class WindowsMessages final : public Messages {
 
   bool PostMessageA(WindowHandle window, std::uint32_t message) override {
     DWORD process = 0;
-    GetWindowThreadProcessId(native(window), &process);
-    return process == GetCurrentProcessId() && ::PostMessageA(native(window), message, 0, 0);
+    GetWindowThreadProcessId(nativeWindow(window), &process);
+    return process == GetCurrentProcessId() && ::PostMessageA(nativeWindow(window), message, 0, 0);
   }
 };
 

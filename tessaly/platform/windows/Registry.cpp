@@ -10,13 +10,13 @@
 namespace tessaly::platform {
 namespace {
 
-HKEY native(RegistryKey key) { return reinterpret_cast<HKEY>(key); }
+HKEY nativeKey(RegistryKey key) { return reinterpret_cast<HKEY>(key); }
 
 class WindowsRegistry final : public Registry {
  public:
   Long RegOpenKeyExA(RegistryKey key, const char* path, RegistryAccess access, RegistryKey& result) override {
     HKEY opened = nullptr;
-    const Long failure = ::RegOpenKeyExA(native(key), path, 0, access, &opened);
+    const Long failure = ::RegOpenKeyExA(nativeKey(key), path, 0, access, &opened);
     if (failure == ERROR_SUCCESS) result = reinterpret_cast<RegistryKey>(opened);
     return failure;
   }
@@ -27,7 +27,7 @@ class WindowsRegistry final : public Registry {
     DWORD disposition = 0;
     // Unlike opening, creating does not take a null path everywhere.
     const char* const given = path != nullptr ? path : "";
-    const Long failure = ::RegCreateKeyExA(native(key), given, 0, nullptr, REG_OPTION_NON_VOLATILE, access,
+    const Long failure = ::RegCreateKeyExA(nativeKey(key), given, 0, nullptr, REG_OPTION_NON_VOLATILE, access,
                                            nullptr, &opened, &disposition);
     if (failure == ERROR_SUCCESS) result = reinterpret_cast<RegistryKey>(opened);
     return failure;
@@ -41,7 +41,7 @@ class WindowsRegistry final : public Registry {
     thread_local std::vector<BYTE> bytes;
     // It is never empty: without a buffer the system would tell the size alone and call that a success.
     if (buffer != nullptr && bytes.size() <= size) bytes.resize(std::size_t{size} + 1);
-    const Long failure = ::RegQueryValueExA(native(key), name, nullptr, &foundType,
+    const Long failure = ::RegQueryValueExA(nativeKey(key), name, nullptr, &foundType,
                                             buffer != nullptr ? bytes.data() : nullptr, &foundSize);
     if (failure == ERROR_SUCCESS && buffer != nullptr) std::memcpy(buffer, bytes.data(), foundSize);
     if (failure != ERROR_SUCCESS && failure != ERROR_MORE_DATA) return failure;
@@ -52,26 +52,26 @@ class WindowsRegistry final : public Registry {
 
   Long RegSetValueExA(RegistryKey key, const char* name, RegistryType type, const void* data,
                       std::uint32_t size) override {
-    return ::RegSetValueExA(native(key), name, 0, type, static_cast<const BYTE*>(data), size);
+    return ::RegSetValueExA(nativeKey(key), name, 0, type, static_cast<const BYTE*>(data), size);
   }
 
   Long RegQueryInfoKeyA(RegistryKey key, std::uint32_t& subkeys) override {
     DWORD count = 0;
-    const Long failure = ::RegQueryInfoKeyA(native(key), nullptr, nullptr, nullptr, &count, nullptr, nullptr,
-                                            nullptr, nullptr, nullptr, nullptr, nullptr);
+    const Long failure = ::RegQueryInfoKeyA(nativeKey(key), nullptr, nullptr, nullptr, &count, nullptr,
+                                            nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
     if (failure == ERROR_SUCCESS) subkeys = count;
     return failure;
   }
 
   Long RegEnumKeyA(RegistryKey key, std::uint32_t index, char* buffer, std::uint32_t size) override {
-    return ::RegEnumKeyA(native(key), index, buffer, size);
+    return ::RegEnumKeyA(nativeKey(key), index, buffer, size);
   }
 
   Long RegDeleteKeyA(RegistryKey key, const char* path) override {
-    return ::RegDeleteKeyA(native(key), path);
+    return ::RegDeleteKeyA(nativeKey(key), path);
   }
 
-  Long RegCloseKey(RegistryKey key) override { return ::RegCloseKey(native(key)); }
+  Long RegCloseKey(RegistryKey key) override { return ::RegCloseKey(nativeKey(key)); }
 };
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace tessaly::platform {
 namespace {
 
-HANDLE native(MappingHandle mapping) { return reinterpret_cast<HANDLE>(mapping); }
+HANDLE nativeMapping(MappingHandle mapping) { return reinterpret_cast<HANDLE>(mapping); }
 
 class WindowsSharedMemory final : public SharedMemory {
  public:
@@ -22,12 +22,12 @@ class WindowsSharedMemory final : public SharedMemory {
   }
 
   void* MapViewOfFile(MappingHandle mapping, ViewAccess access, std::size_t size) override {
-    return ::MapViewOfFile(native(mapping), access, 0, 0, size);
+    return ::MapViewOfFile(nativeMapping(mapping), access, 0, 0, size);
   }
 
   bool UnmapViewOfFile(const void* view) override { return ::UnmapViewOfFile(view); }
 
-  bool CloseHandle(MappingHandle mapping) override { return ::CloseHandle(native(mapping)); }
+  bool CloseHandle(MappingHandle mapping) override { return ::CloseHandle(nativeMapping(mapping)); }
 };
 
 }  // namespace

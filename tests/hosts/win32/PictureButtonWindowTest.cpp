@@ -14,7 +14,7 @@ namespace {
 using win32::kPictureButtonClass;
 using win32::pictureButtonOf;
 
-constexpr PixelPoint kInside{24, 24};
+constexpr PixelPoint kInsideButton{24, 24};
 
 PictureReference coloured(Long width, Long height) {
   std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
@@ -134,7 +134,7 @@ TEST_F(PictureButtonWindowTest, ShowsWhatAFormWithoutADisplayShows) {
     EXPECT_TRUE(samePixels(*shown(form_.button()), *wanted));
   };
   expectTwins("idle");
-  point(kInside);
+  point(kInsideButton);
   other.movePointer({44, 44});
   expectTwins("hovering");
   press();
@@ -166,7 +166,7 @@ TEST_F(PictureButtonWindowTest, IsDestroyedByItsHostInItsClick) {
     button.withBorder(3);
     held = sign.use_count();
   };
-  point(kInside);
+  point(kInsideButton);
   press();
   release();
   // The handler holds the sign, and while it was called a copy of it did too.
@@ -184,7 +184,7 @@ TEST_F(PictureButtonWindowTest, IsDestroyedInAnAutomaticClickAndNoOtherFollows) 
   button.events.OnButtonClick = [&] {
     if (++clicks == 2) DestroyWindow(GetParent(form_.button()));
   };
-  point(kInside);
+  point(kInsideButton);
   press();
   EXPECT_TRUE(pumpUntil([&] { return clicks == 2; }));
   release();
@@ -228,7 +228,7 @@ TEST_F(PictureButtonWindowTest, AnErrorShowsInABoxUnlessItsHostWantsToHearOfIt) 
     *told = words;
     PostMessageW(box, WM_COMMAND, IDOK, 0);
   });
-  point(kInside);
+  point(kInsideButton);
   press();
   release();
   EXPECT_NE(text.find(L"(13)"), std::wstring::npos) << testing::PrintToString(text);

@@ -15,7 +15,7 @@ namespace {
 using namespace platform;
 using std::filesystem::path;
 
-MappingHandle make(const char* name) {
+MappingHandle makeBlock(const char* name) {
   return ownSharedMemory().CreateFileMappingA(kReadWritePages, 0, 64, name);
 }
 
@@ -26,7 +26,7 @@ class SharedMemoryFilesTest : public testing::Test {
   void TearDown() override { std::filesystem::remove_all(file()); }
 
   bool isRefused() const {
-    return make("block") == 0 && ownSharedMemory().OpenFileMappingA(kViewRead, "block") == 0;
+    return makeBlock("block") == 0 && ownSharedMemory().OpenFileMappingA(kViewRead, "block") == 0;
   }
 
   void writeFile(mode_t mode) const {
@@ -39,7 +39,7 @@ class SharedMemoryFilesTest : public testing::Test {
 };
 
 TEST_F(SharedMemoryFilesTest, ABlockIsAFileOfTheDocumentedName) {
-  const MappingHandle mapping = make("block");
+  const MappingHandle mapping = makeBlock("block");
   EXPECT_TRUE(std::filesystem::is_regular_file(file()));
   EXPECT_EQ(std::filesystem::file_size(file()), 64U);
   ownSharedMemory().CloseHandle(mapping);
@@ -49,7 +49,7 @@ TEST_F(SharedMemoryFilesTest, ABlockIsAFileOfTheDocumentedName) {
 TEST_F(SharedMemoryFilesTest, TheOwnerAloneHasRightsUnderEveryUmask) {
   for (const mode_t mask : {0000U, 0077U, 0277U, 0777U}) {
     const mode_t before = umask(mask);
-    const MappingHandle mapping = make("block");
+    const MappingHandle mapping = makeBlock("block");
     umask(before);
     EXPECT_EQ(permissionsOf(file()), 0600U) << std::oct << mask;
     EXPECT_TRUE(ownSharedMemory().CloseHandle(mapping));
@@ -70,7 +70,7 @@ int withOwnSharedMemory(const char* options, const std::function<int()>& work) {
 
 int openUnderAnUmaskThatTakesEverything() {
   umask(0777);
-  const MappingHandle mapping = make("block");
+  const MappingHandle mapping = makeBlock("block");
   const MappingHandle again = ownSharedMemory().OpenFileMappingA(kViewWrite, "block");
   if (mapping == 0 || again == 0) return 1;
   return ownSharedMemory().CloseHandle(mapping) && ownSharedMemory().CloseHandle(again) ? 0 : 2;
@@ -96,7 +96,7 @@ TEST_F(SharedMemoryFilesTest, WithoutMemoryForAllOfItThereIsNoBlock) {
 
 TEST_F(SharedMemoryFilesTest, AnotherUserCannotOpenTheFile) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can be another user";
-  const MappingHandle mapping = make("block");
+  const MappingHandle mapping = makeBlock("block");
   const path there = file();
   EXPECT_EQ(asNobody([&] { return ::open(there.c_str(), O_RDONLY | O_CLOEXEC) < 0 ? errno : 0; }), EACCES);
   EXPECT_EQ(asNobody([&] { return ::open(there.c_str(), O_RDWR | O_CLOEXEC) < 0 ? errno : 0; }), EACCES);
@@ -151,26 +151,26 @@ TEST_F(SharedMemoryFilesTest, AnEmptyFileThatAKilledProcessHasLeftIsTaken) {
   const Descriptor made(creat(file().c_str(), 0600));
   EXPECT_EQ(ownSharedMemory().OpenFileMappingA(kViewRead, "block"), 0);
   const Descriptor again(creat(file().c_str(), 0600));
-  const MappingHandle mapping = make("block");
+  const MappingHandle mapping = makeBlock("block");
   EXPECT_NE(mapping, 0);
   EXPECT_TRUE(ownSharedMemory().CloseHandle(mapping));
 }
 
 TEST_F(SharedMemoryFilesTest, NamesThatNoFileHasAreRefused) {
-  EXPECT_EQ(make(""), 0);
-  EXPECT_EQ(make(nullptr), 0);
-  EXPECT_EQ(make("a/b"), 0);
-  EXPECT_EQ(make("/"), 0);
-  EXPECT_EQ(make("../x"), 0);
-  EXPECT_EQ(make(std::string(255, 'x').c_str()), 0);
+  EXPECT_EQ(makeBlock(""), 0);
+  EXPECT_EQ(makeBlock(nullptr), 0);
+  EXPECT_EQ(makeBlock("a/b"), 0);
+  EXPECT_EQ(makeBlock("/"), 0);
+  EXPECT_EQ(makeBlock("../x"), 0);
+  EXPECT_EQ(makeBlock(std::string(255, 'x').c_str()), 0);
   const std::string longest(255 - file("").filename().string().size(), 'x');
-  const MappingHandle mapping = make(longest.c_str());
+  const MappingHandle mapping = makeBlock(longest.c_str());
   EXPECT_NE(mapping, 0);
   EXPECT_TRUE(ownSharedMemory().CloseHandle(mapping));
 }
 
 TEST_F(SharedMemoryFilesTest, AnotherFolderIsAnotherBlock) {
-  const MappingHandle mapping = make("block");
+  const MappingHandle mapping = makeBlock("block");
   const OwnChannel other;
   EXPECT_EQ(ownSharedMemory().OpenFileMappingA(kViewRead, "block"), 0);
   ownSharedMemory().CloseHandle(mapping);
@@ -179,7 +179,7 @@ TEST_F(SharedMemoryFilesTest, AnotherFolderIsAnotherBlock) {
 
 TEST_F(SharedMemoryFilesTest, NoProgramThatIsStartedGetsADescriptor) {
   const auto before = inheritedDescriptors();
-  const MappingHandle mapping = make("block");
+  const MappingHandle mapping = makeBlock("block");
   void* view = ownSharedMemory().MapViewOfFile(mapping, kViewWrite, 64);
   EXPECT_EQ(inheritedDescriptors(), before);
   ownSharedMemory().UnmapViewOfFile(view);

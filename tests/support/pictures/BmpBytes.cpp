@@ -12,7 +12,7 @@ constexpr std::uint32_t kOldHeader = 12;
 constexpr std::uint32_t kBitFields = 3;
 
 /// A pixel of whole bytes has its low byte first.
-std::uint64_t inFileOrder(std::uint32_t pixel, unsigned bits) {
+std::uint64_t lowByteFirst(std::uint32_t pixel, unsigned bits) {
   switch (bits) {
     case 16:
       return (pixel & 0xFFU) << 8U | pixel >> 8U;
@@ -31,7 +31,7 @@ std::string rowsFromBelow(const std::vector<std::vector<std::uint32_t>>& rows, u
   std::vector<std::string> packed;
   for (const auto& row : rows) {
     BitRow bitRow(bits);
-    for (const std::uint32_t pixel : row) bitRow.add(inFileOrder(pixel, bits));
+    for (const std::uint32_t pixel : row) bitRow.add(lowByteFirst(pixel, bits));
     packed.push_back(bitRow.get(4));
   }
   if (!isTopDown) std::reverse(packed.begin(), packed.end());

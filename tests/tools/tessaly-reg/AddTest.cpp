@@ -19,13 +19,13 @@ TEST(RegAdd, MakesAKeyWithItsParents) {
   EXPECT_EQ(tool.out, "\nHKEY_LOCAL_MACHINE\\Software\\New\n\n");
 }
 
-struct Row {
+struct DataRow {
   std::vector<std::string> words;
   std::string shown;
 };
 
 TEST(RegAdd, TakesDataOfEachType) {
-  const Row rows[] = {
+  const DataRow rows[] = {
       {{"/d", "text"}, "    x    REG_SZ    text"},
       {{}, "    x    REG_SZ    "},
       {{"/t", "reg_sz", "/d", ""}, "    x    REG_SZ    "},
@@ -45,7 +45,7 @@ TEST(RegAdd, TakesDataOfEachType) {
       {{"/t", "REG_MULTI_SZ", "/s", ";", "/d", "a;b\\0;c"}, "    x    REG_MULTI_SZ    a\\0b\\0\\0c"},
       {{"/t", "REG_MULTI_SZ"}, "    x    REG_MULTI_SZ    "},
   };
-  for (const Row& row : rows) {
+  for (const DataRow& row : rows) {
     Tool tool;
     std::vector<std::string> words = {"add", "HKCU\\A", "/v", "x"};
     words.insert(words.end(), row.words.begin(), row.words.end());

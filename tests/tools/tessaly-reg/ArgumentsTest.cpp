@@ -9,13 +9,13 @@ namespace {
 
 using tests::Tool;
 
-struct Row {
+struct RefusalRow {
   std::vector<std::string> words;
   std::string message;
 };
 
 TEST(RegArguments, AreRefusedWithTheReason) {
-  const Row rows[] = {
+  const RefusalRow rows[] = {
       {{}, "a command is missing: query, add, delete, export, import or repair"},
       {{"frob"}, "there is no command \"frob\""},
       {{"query"}, "query needs a key, such as 'HKCU\\Software'"},
@@ -54,7 +54,7 @@ TEST(RegArguments, AreRefusedWithTheReason) {
       {{"query", "HKCU", "/f", std::string(1001, 'x')}, "the pattern behind /f is over 1000 characters long"},
       {{"\x1b[2J"}, "there is no command \"\\u001B[2J\""},
   };
-  for (const Row& row : rows) {
+  for (const RefusalRow& row : rows) {
     Tool tool;
     EXPECT_EQ(tool.run(row.words), 2);
     EXPECT_EQ(tool.errors.substr(0, tool.errors.find('\n')), "tessaly-reg: " + row.message);

@@ -8,7 +8,7 @@ namespace {
 
 using tests::regFile;
 
-struct Row {
+struct ErrorRow {
   std::string_view content;
   std::size_t line;
   std::string_view message;
@@ -46,7 +46,7 @@ TEST(MalformedRegFile, HasAnotherFirstLine) {
 }
 
 TEST(MalformedRegFile, HasWrongKeys) {
-  const Row rows[] = {
+  const ErrorRow rows[] = {
       {"[HKEY_CURRENT_USER\\A\n", 3, "expected ] behind the name of the key"},
       {"\n[HKEY_CURRENT_USER\\A] x\n", 4, "expected nothing but a comment behind ]"},
       {"[]\n", 3, "\"\""},
@@ -58,7 +58,7 @@ TEST(MalformedRegFile, HasWrongKeys) {
       {"[-HKEY_CURRENT_USER]\n", 3, "\"HKEY_CURRENT_USER\" itself can't be deleted"},
       {"[-HKCR\\]\n", 3, "\"HKCR\\\" itself can't be deleted"},
   };
-  for (const Row& row : rows) {
+  for (const ErrorRow& row : rows) {
     const bool isOfRoot = row.message.starts_with('"') && row.message.ends_with('"');
     expectOneError(regFile(row.content), row.line,
                    (isOfRoot ? std::string(kRoots) : "") + std::string(row.message));
@@ -71,7 +71,7 @@ TEST(MalformedRegFile, HasValuesWhereNoneCanBe) {
 }
 
 TEST(MalformedRegFile, HasWrongValues) {
-  const Row rows[] = {
+  const ErrorRow rows[] = {
       {"a=\"b\"\n", 4, kAnything},
       {"'a'=\"b\"\n", 4, kAnything},
       {"# comment\n", 4, kAnything},
@@ -121,7 +121,7 @@ TEST(MalformedRegFile, HasWrongValues) {
       {"\"a\"=hex(1):61\n", 4, "expected an even number of bytes, for text in UTF-16"},
       {"\"a\"=hex(7):61,00,\\\n  62\n", 4, "expected an even number of bytes, for text in UTF-16"},
   };
-  for (const Row& row : rows)
+  for (const ErrorRow& row : rows)
     expectOneError(regFile("[HKCU\\A]\n" + std::string(row.content)), row.line, row.message);
 }
 

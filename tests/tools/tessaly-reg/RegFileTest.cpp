@@ -37,12 +37,12 @@ std::string listed(std::string_view bytes) {
   return result;
 }
 
-struct Row {
+struct ListedRow {
   std::string_view content;
   std::string_view listed;
 };
 
-void expectListed(const Row& row) {
+void expectListed(const ListedRow& row) {
   const std::string key = "[HKEY_CURRENT_USER\\A]\n";
   EXPECT_EQ(listed(regFile(key + std::string(row.content))),
             "3 +HKEY_CURRENT_USER\\A\n" + std::string(row.listed));
@@ -57,7 +57,7 @@ TEST(RegFile, MakesAndDeletesKeys) {
 }
 
 TEST(RegFile, SetsTexts) {
-  const Row rows[] = {
+  const ListedRow rows[] = {
       {"\"a\"=\"b\"\n", "4 +a=REG_SZ:b\\u0000\n"},
       {"@=\"b\"\n", "4 +=REG_SZ:b\\u0000\n"},
       {"\"\"=\"b\"\n", "4 +=REG_SZ:b\\u0000\n"},
@@ -70,11 +70,11 @@ TEST(RegFile, SetsTexts) {
       {"\"a\nb\"=\"c\"\n", "4 +a\\u000Ab=REG_SZ:c\\u0000\n"},
       {"\"\xC3\xA9\"=\"\xF0\x9F\x98\x80\"\n", "4 +\xC3\xA9=REG_SZ:\xF0\x9F\x98\x80\\u0000\n"},
   };
-  for (const Row& row : rows) expectListed(row);
+  for (const ListedRow& row : rows) expectListed(row);
 }
 
 TEST(RegFile, SetsNumbersAndBytes) {
-  const Row rows[] = {
+  const ListedRow rows[] = {
       {"\"a\"=dword:0000002A\n", "4 +a=REG_DWORD:0x2a\n"},
       {"\"a\"=DWORD: f \n", "4 +a=REG_DWORD:0xf\n"},
       {"\"a\"=hex:\n", "4 +a=REG_BINARY:\n"},
@@ -91,11 +91,11 @@ TEST(RegFile, SetsNumbersAndBytes) {
       {"\"a\"=hex(4D):01,02\n", "4 +a=0x4d:0102\n"},
       {"\"a\"=hex(FFFFFFFF):\n", "4 +a=0xffffffff:\n"},
   };
-  for (const Row& row : rows) expectListed(row);
+  for (const ListedRow& row : rows) expectListed(row);
 }
 
 TEST(RegFile, TakesTextAsUtf16Bytes) {
-  const Row rows[] = {
+  const ListedRow rows[] = {
       {"\"a\"=hex(1):61,00\n", "4 +a=REG_SZ:a\n"},
       {"\"a\"=hex(2):25,00,61,00,25,00,00,00\n", "4 +a=REG_EXPAND_SZ:%a%\\u0000\n"},
       {"\"a\"=hex(7):61,00,00,00,3d,d8,00,de,00,00,00,00\n",
@@ -103,7 +103,7 @@ TEST(RegFile, TakesTextAsUtf16Bytes) {
       {"\"a\"=hex(7):\n", "4 +a=REG_MULTI_SZ:\n"},
       {"\"a\"=hex(1):00,d8\n", "4 +a=REG_SZ:\\uD800\n"},
   };
-  for (const Row& row : rows) expectListed(row);
+  for (const ListedRow& row : rows) expectListed(row);
 }
 
 TEST(RegFile, DeletesValues) { expectListed({"\"a\"=-\n@=-  ; comment\n", "4 -a\n5 -\n"}); }

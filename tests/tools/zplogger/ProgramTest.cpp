@@ -5,14 +5,14 @@
 #include "tessaly/trace/ZPLoggerClient.h"
 #include "tests/support/OwnRuntime.h"
 #include "tests/support/Process.h"
+#include "tests/tools/zplogger/Program.h"
 
 namespace tessaly::zplogger {
 namespace {
 
+using tests::kWaiting;
 using tests::Process;
 using tests::ProcessOptions;
-
-constexpr const char* kWaiting = "zplogger: waiting for clients as \"ZPLogger server\"";
 
 struct ZpProgramTest : testing::Test {
   ZpProgramTest() { tests::useOwnRuntime(); }

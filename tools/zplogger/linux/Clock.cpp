@@ -5,7 +5,7 @@
 namespace tessaly::zplogger {
 namespace {
 
-timespec read(clockid_t which) {
+timespec timeOf(clockid_t which) {
   timespec result = {};
   clock_gettime(which, &result);
   return result;
@@ -25,8 +25,8 @@ struct OwnClock final : Clock {
   OwnClock() { tzset(); }
 
   Moment now() override {
-    const timespec steady = read(CLOCK_MONOTONIC);
-    return {steady.tv_sec * std::int64_t{1000} + millisecondsOf(steady), localTime(read(CLOCK_REALTIME))};
+    const timespec steady = timeOf(CLOCK_MONOTONIC);
+    return {steady.tv_sec * std::int64_t{1000} + millisecondsOf(steady), localTime(timeOf(CLOCK_REALTIME))};
   }
 };
 

@@ -21,7 +21,7 @@ namespace tessaly::zplogger {
 namespace {
 
 /// How often it is looked whether a terminal that is another program's has come back, should nobody tell.
-constexpr int kLookEvery = 1000;
+constexpr int kLookAtTerminalEvery = 1000;
 
 sigset_t signals(std::initializer_list<int> numbers) {
   sigset_t result = {};
@@ -122,7 +122,7 @@ std::optional<Happening> Console::Parts::look() {
   const bool reads = hasKeys();
   std::array<pollfd, 4> awaited = {pollfd{signalled.number(), POLLIN, 0}, pollfd{ended.number(), POLLIN, 0},
                                    pollfd{STDOUT_FILENO, 0, 0}, pollfd{reads ? STDIN_FILENO : -1, POLLIN, 0}};
-  if (poll(awaited.data(), awaited.size(), isTerminal && !reads ? kLookEvery : -1) <= 0) return {};
+  if (poll(awaited.data(), awaited.size(), isTerminal && !reads ? kLookAtTerminalEvery : -1) <= 0) return {};
   if (awaited[0].revents != 0) return takeSignal();
   if (awaited[1].revents != 0) return Happening{Happening::Kind::End};
   // Both come without being asked for.

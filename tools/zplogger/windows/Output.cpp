@@ -11,12 +11,12 @@ namespace tessaly::zplogger {
 namespace {
 
 /// A console takes so many characters at once.
-constexpr std::size_t kMostAtOnce = 8000;
+constexpr std::size_t kMostUnitsAtOnce = 8000;
 
 /// A character of two units stays whole.
 std::size_t sizeOfPart(std::wstring_view text) {
-  if (text.size() <= kMostAtOnce) return text.size();
-  return kMostAtOnce - (unicode::isLowSurrogate(text[kMostAtOnce]) ? 1 : 0);
+  if (text.size() <= kMostUnitsAtOnce) return text.size();
+  return kMostUnitsAtOnce - (unicode::isLowSurrogate(text[kMostUnitsAtOnce]) ? 1 : 0);
 }
 
 class HandleOutput final : public Output {

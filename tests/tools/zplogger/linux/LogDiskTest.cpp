@@ -19,7 +19,7 @@ using std::filesystem::create_directory_symlink;
 using std::filesystem::create_symlink;
 using tests::LogFolder;
 
-constexpr const char* kNew = "2026-11-21 22:36:18.645 0 Host new\n";
+constexpr const char* kNewLine = "2026-11-21 22:36:18.645 0 Host new\n";
 
 struct stat statusOf(const std::filesystem::path& path) {
   struct stat status = {};
@@ -59,13 +59,13 @@ TEST(ZpLogDiskOnLinux, FollowsNoLinkOnTheWay) {
 
 TEST(ZpLogDiskOnLinux, FollowsNoLinkOfABackup) {
   const LogFolder folder;
-  folder.write(u"a.log", kNew);
+  folder.write(u"a.log", kNewLine);
   folder.write(u"other", "2026-11-21 21:40:24.123 0 Host x\n");
   create_symlink(folder.path(u"other"), folder.path(u"a.bak"));
   create_directory_symlink(folder.path(u""), folder.path(u"link"));
   EXPECT_EQ(folder.move(u"a.log", u"a.bak"), "it is a link");
   EXPECT_EQ(folder.move(u"a.log", u"link/b.bak"), "there is a link in its path");
-  EXPECT_EQ(folder.read(u"a.log"), kNew);
+  EXPECT_EQ(folder.read(u"a.log"), kNewLine);
 }
 
 TEST(ZpLogDiskOnLinux, OpensNoPipeAndNoDevice) {

@@ -15,15 +15,15 @@
 #include "tessaly/trace/ZPLoggerClient.h"
 #include "tests/support/OwnRuntime.h"
 #include "tests/support/Process.h"
+#include "tests/tools/zplogger/Program.h"
 #include "tools/support/linux/Descriptor.h"
 
 namespace tessaly::zplogger {
 namespace {
 
+using tests::kWaiting;
 using tests::Process;
 using tests::ProcessOptions;
-
-constexpr const char* kWaiting = "zplogger: waiting for clients as \"ZPLogger server\"";
 
 /// A shell that runs commands with "$ZPLOGGER" in them; errors come with the output.
 class Shell : public Process {

@@ -7,14 +7,15 @@
 
 #include "tessaly/trace/ZPLoggerClient.h"
 #include "tests/support/OwnRuntime.h"
+#include "tests/tools/zplogger/Program.h"
 #include "tests/tools/zplogger/linux/PseudoTerminal.h"
 
 namespace tessaly::zplogger {
 namespace {
 
+using tests::kWaiting;
 using tests::PseudoTerminal;
 
-constexpr const char* kWaiting = "zplogger: waiting for clients as \"ZPLogger server\"";
 constexpr const char* kColouredText = "\x1b[38;2;128;0;0;48;2;255;255;255m report \x1b[0m";
 
 std::vector<std::string> logger(const std::vector<std::string>& words = {}) {

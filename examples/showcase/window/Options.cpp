@@ -1,0 +1,48 @@
+#include "examples/showcase/window/Options.h"
+
+#include <charconv>
+#include <string>
+
+#include "tessaly/base/Text.h"
+
+namespace showcase {
+namespace {
+
+using tessaly::Long;
+using tessaly::String;
+
+std::optional<Long> numberOf(const String& word) {
+  const std::string text = tessaly::toUtf8(word);
+  Long number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size() || number < 1) return std::nullopt;
+  return number;
+}
+
+void takeValue(Options& options, const String& word, const String& value) {
+  if (word == u"--picture") {
+    options.picture = value;
+    if (value.empty()) options.fault = u"--picture needs the name of a file.";
+  } else {
+    options.language = numberOf(value);
+    if (!options.language) options.fault = u"\"" + value + u"\" is no number of a language.";
+  }
+}
+
+}  // namespace
+
+Options optionsOf(const std::vector<String>& words) {
+  Options options;
+  for (std::size_t i = 0; i < words.size() && options.fault.empty(); i += 2) {
+    if (words[i] != u"--picture" && words[i] != u"--language") {
+      options.fault = u"\"" + words[i] + u"\" is none of its arguments.";
+    } else if (i + 1 == words.size()) {
+      options.fault = words[i] + u" needs a word behind it.";
+    } else {
+      takeValue(options, words[i], words[i + 1]);
+    }
+  }
+  return options;
+}
+
+}  // namespace showcase

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+#include <vector>
+
+#include "examples/showcase/window/Window.h"
+#include "tessaly/hosts/win32/Handles.h"
+
+namespace showcase {
+
+/// The window by Windows itself.
+class Win32Window final : public Window {
+ public:
+  /// `show` is what ShowWindow takes.
+  explicit Win32Window(int show);
+  Win32Window(const Win32Window&) = delete;
+  Win32Window& operator=(const Win32Window&) = delete;
+  ~Win32Window() override;
+
+  void setTitle(std::u16string_view title) override;
+  void setRightToLeft(bool isRightToLeft) override;
+  tessaly::transparentBitmap& addButton() override;
+  void addGap() override;
+  void nameButton(const tessaly::transparentBitmap& button, std::u16string_view name) override;
+  void setColumns(const std::array<tessaly::String, 4>& headings) override;
+  void setListFont(std::u16string_view name, tessaly::Long points) override;
+  void addEvent(const Event& event) override;
+  void setStatus(const std::array<tessaly::String, 3>& parts) override;
+  void point(const tessaly::transparentBitmap& button) override;
+  void press(const tessaly::transparentBitmap& button) override;
+  void hold(const tessaly::transparentBitmap& button) override;
+  void release(const tessaly::transparentBitmap& button) override;
+  void handleNext() override;
+  tessaly::PictureReference picture() override;
+  void run() override;
+
+ private:
+  /// A button with its distance from the tool bar's beginning.
+  struct Placed {
+    HWND window;
+    int distance;
+  };
+
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT colourRow(LPARAM notification) const;
+  void paintToolBar(HDC context) const;
+  void layOut();
+  HWND windowOf(const tessaly::transparentBitmap& button) const;
+  int width() const;
+
+  HWND window_ = nullptr;
+  HWND list_ = nullptr;
+  HWND status_ = nullptr;
+  HWND toolTips_ = nullptr;
+  tessaly::win32::OwnedFont listFont_;
+  tessaly::win32::OwnedFont font_;
+  std::vector<Placed> buttons_;
+  std::vector<int> lines_;
+  int nextDistance_;
+  bool isFromRight_ = false;
+};
+
+}  // namespace showcase

@@ -1,0 +1,38 @@
+# Unpacks the packages in PACKAGES as if into a system of their own, ROOT, and checks what they ask for.
+#   cmake -DPACKAGES=<folder> -DROOT=<folder> -P unpack.cmake
+file(REMOVE_RECURSE "${ROOT}")
+file(MAKE_DIRECTORY "${ROOT}")
+file(GLOB zips "${PACKAGES}/*.zip")
+file(GLOB debs "${PACKAGES}/*.deb")
+if(NOT zips AND NOT debs)
+  message(FATAL_ERROR "No package is in ${PACKAGES}")
+endif()
+foreach(zip IN LISTS zips)
+  file(ARCHIVE_EXTRACT INPUT "${zip}" DESTINATION "${ROOT}")
+endforeach()
+
+# All that a package needs is one of ours or is on this machine, on which it was built.
+function(check_needs deb)
+  execute_process(COMMAND dpkg-deb -f "${deb}" Depends OUTPUT_VARIABLE needs OUTPUT_STRIP_TRAILING_WHITESPACE
+                  COMMAND_ERROR_IS_FATAL ANY)
+  if(needs STREQUAL "")
+    message(FATAL_ERROR "${deb} needs nothing, not even the C library")
+  endif()
+  string(REGEX MATCHALL "(^|, )[^ ,]+" needs "${needs}")
+  foreach(need IN LISTS needs)
+    string(REPLACE ", " "" need "${need}")
+    if(need MATCHES "^(libtessaly|tessaly)")
+      file(GLOB ours "${PACKAGES}/${need}_*.deb")
+      if(NOT ours)
+        message(FATAL_ERROR "${deb} needs ${need}, which is not made")
+      endif()
+    else()
+      execute_process(COMMAND dpkg-query -W "${need}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    endif()
+  endforeach()
+endfunction()
+
+foreach(deb IN LISTS debs)
+  execute_process(COMMAND dpkg-deb -x "${deb}" "${ROOT}" COMMAND_ERROR_IS_FATAL ANY)
+  check_needs("${deb}")
+endforeach()
