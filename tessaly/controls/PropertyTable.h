@@ -39,6 +39,7 @@ struct PropertyRow {
 
   constexpr bool booleanDefault() const { return std::get<bool>(defaultValue); }
   constexpr Long longDefault() const { return std::get<Long>(defaultValue); }
+  constexpr std::u16string_view textDefault() const { return std::get<std::u16string_view>(defaultValue); }
 };
 
 /// An argument of an event, which the host may change.

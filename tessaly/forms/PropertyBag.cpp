@@ -7,6 +7,7 @@
 #include "tessaly/base/RuntimeError.h"
 #include "tessaly/forms/BagText.h"
 #include "tessaly/platform/Core.h"
+#include "tessaly/platform/LocalNumber.h"
 
 namespace tessaly {
 namespace {
@@ -53,6 +54,12 @@ struct ToBoolean {
     if (!number) throw RuntimeError(RuntimeError::TypeMismatch);
     return (*this)(*number);
   }
+};
+
+struct ToString {
+  String operator()(Boolean value) const { return value ? u"True" : u"False"; }
+  String operator()(double value) const { return platform::localNumberText(value); }
+  String operator()(const String& text) const { return text; }
 };
 
 }  // namespace
@@ -120,6 +127,8 @@ void PropertyBag::refuseEqualNames() const {
 
 Long longOf(const PropertyValue& value) { return plainOf(value).toLong(); }
 Boolean booleanOf(const PropertyValue& value) { return std::visit(ToBoolean{}, plainOf(value).value()); }
+
+String stringOf(const PropertyValue& value) { return std::visit(ToString{}, plainOf(value).value()); }
 
 PictureReference pictureOf(const PropertyValue& value) {
   if (const auto* picture = std::get_if<PictureReference>(&value)) return *picture;

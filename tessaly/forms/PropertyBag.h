@@ -51,9 +51,11 @@ class TESSALY_DESKTOP_API PropertyBag {
 
 /// A bag's value as the type that a property has. Error 13 where it is of another kind and does not convert,
 /// and error 6 for a number outside 32 bits. A Boolean takes any number, all but 0 being true, and the texts
-/// True and False in any case.
+/// True and False in any case. A text takes all plain values: True or False, or a number's digits with the
+/// user's decimal separator, and error 6 where that is infinite or none.
 TESSALY_DESKTOP_API Long longOf(const PropertyValue& value);
 TESSALY_DESKTOP_API Boolean booleanOf(const PropertyValue& value);
+TESSALY_DESKTOP_API String stringOf(const PropertyValue& value);
 TESSALY_DESKTOP_API PictureReference pictureOf(const PropertyValue& value);
 
 }  // namespace tessaly

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "tessaly/base/Text.h"
+#include "tessaly/forms/Label.h"
 #include "tessaly/forms/Line.h"
 #include "tessaly/forms/PictureBox.h"
 #include "tessaly/forms/Timer.h"
@@ -207,6 +208,56 @@ class NotingLine final : public Line {
   Notes notes_;
 };
 
+class NotingLabel final : public Label {
+ public:
+  NotingLabel(UserControl& parent, Notes notes) : Label(parent), notes_(std::move(notes)) {}
+
+  using Label::Caption;
+  void Caption(std::u16string_view text) override {
+    notes_.call("Caption = " + toUtf8(text));
+    Label::Caption(text);
+  }
+  using Label::Alignment;
+  void Alignment(Long alignment) override {
+    notes_.set("Alignment", static_cast<double>(alignment));
+    Label::Alignment(alignment);
+  }
+  using Label::ToolTipText;
+  void ToolTipText(std::u16string_view text) override {
+    notes_.call("ToolTipText = " + toUtf8(text));
+    Label::ToolTipText(text);
+  }
+  using Label::Left;
+  void Left(double left) override {
+    notes_.set("Left", left);
+    Label::Left(left);
+  }
+  using Label::Top;
+  void Top(double top) override {
+    notes_.set("Top", top);
+    Label::Top(top);
+  }
+  using Label::Width;
+  void Width(double width) override {
+    notes_.set("Width", width);
+    Label::Width(width);
+  }
+  using Label::Height;
+  void Height(double height) override {
+    notes_.set("Height", height);
+    Label::Height(height);
+  }
+  void Move(double left, double top, double width, double height) override {
+    std::ostringstream text;
+    text << "Move " << left << ' ' << top << ' ' << width << ' ' << height;
+    notes_.call(text.str());
+    Label::Move(left, top, width, height);
+  }
+
+ private:
+  Notes notes_;
+};
+
 class NotingTimer final : public Timer {
  public:
   NotingTimer(UserControl& parent, std::function<void()> onTick, Notes notes)
@@ -249,6 +300,10 @@ std::unique_ptr<PictureBox> RecordingToolbox::makePictureBox(UserControl& parent
 
 std::unique_ptr<Line> RecordingToolbox::makeLine(UserControl& parent, std::string_view name) {
   return std::make_unique<NotingLine>(parent, Notes(*log_, begun(name)));
+}
+
+std::unique_ptr<Label> RecordingToolbox::makeLabel(UserControl& parent, std::string_view name) {
+  return std::make_unique<NotingLabel>(parent, Notes(*log_, begun(name)));
 }
 
 std::unique_ptr<Timer> RecordingToolbox::makeTimer(UserControl& parent, std::string_view name,

@@ -19,6 +19,7 @@ class RecordingToolbox final : public Toolbox {
   std::unique_ptr<UserControl> makeUserControl(Container& container, UserControlEvents& control) override;
   std::unique_ptr<PictureBox> makePictureBox(UserControl& parent, std::string_view name) override;
   std::unique_ptr<Line> makeLine(UserControl& parent, std::string_view name) override;
+  std::unique_ptr<Label> makeLabel(UserControl& parent, std::string_view name) override;
   std::unique_ptr<Timer> makeTimer(UserControl& parent, std::string_view name,
                                    std::function<void()> onTick) override;
 

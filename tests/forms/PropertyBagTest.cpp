@@ -6,6 +6,8 @@
 
 #include <limits>
 
+#include "tessaly/platform/Core.h"
+#include "tessaly/platform/fake/Locale.h"
 #include "tests/forms/PixelsOfTests.h"
 #include "tests/support/Errors.h"
 
@@ -81,6 +83,21 @@ TEST(PropertyValueTest, AsALong) {
   EXPECT_EQ(errorOf([] { longOf(Variant(u"twelve")); }), RuntimeError::TypeMismatch);
   EXPECT_EQ(errorOf([] { longOf(PictureReference()); }), RuntimeError::TypeMismatch);
   EXPECT_EQ(errorOf([] { longOf(Variant(3e9)); }), RuntimeError::Overflow);
+}
+
+TEST(PropertyValueTest, AsAString) {
+  platform::fake::Locale locale(1031, u",");
+  const platform::Override inForce(locale);
+  EXPECT_EQ(stringOf(Variant(u" text ")), u" text ");
+  EXPECT_EQ(stringOf(Variant(True)), u"True");
+  EXPECT_EQ(stringOf(Variant(Boolean(7))), u"True");
+  EXPECT_EQ(stringOf(Variant(False)), u"False");
+  EXPECT_EQ(stringOf(Variant(Long{-2147483647})), u"-2147483647");
+  EXPECT_EQ(stringOf(Variant(std::int16_t{7})), u"7");
+  EXPECT_EQ(stringOf(Variant(0.5)), u"0,5");
+  EXPECT_EQ(errorOf([] { stringOf(Variant(std::numeric_limits<double>::infinity())); }),
+            RuntimeError::Overflow);
+  EXPECT_EQ(errorOf([] { stringOf(PictureReference()); }), RuntimeError::TypeMismatch);
 }
 
 TEST(PropertyValueTest, AsABoolean) {

@@ -81,7 +81,9 @@ class TESSALY_DESKTOP_API Form {
 
   /// The form's own screen, or another one in its place, which must outlive the form.
   Screen& screen() const { return *screen_; }
-  void setScreen(Screen& screen) { screen_ = &screen; }
+  void setScreen(Screen& screen) {
+    screen_ = std::shared_ptr<Screen>(&screen, [](Screen*) {});
+  }
 
   /// What makes the engine's objects for the controls that are added from now on; it must outlive the form.
   void setToolbox(Toolbox& toolbox) { toolbox_ = &toolbox; }
@@ -106,8 +108,7 @@ class TESSALY_DESKTOP_API Form {
   PixelPoint pointerOn(const Place& place) const;
 
   std::shared_ptr<Clock> clock_;
-  Screen ownScreen_;
-  Screen* screen_ = &ownScreen_;
+  std::shared_ptr<Screen> screen_ = std::make_shared<Screen>();
   Toolbox ownToolbox_;
   Toolbox* toolbox_ = &ownToolbox_;
   PixelPoint corner_{100, 100};

@@ -105,7 +105,13 @@ void Place::onError(const RuntimeError& error) noexcept {
 }
 
 OLE_COLOR Place::systemColour(Long number) { return headless::systemColour(number); }
-Screen& Place::screen() { return form_ != nullptr ? form_->screen() : noContainer().screen(); }
+
+Screen& Place::screen() {
+  if (form_ != nullptr) return form_->screen();
+  const auto last = screenOfForm_.lock();
+  return last ? *last : noContainer().screen();
+}
+
 Toolbox& Place::toolbox() { return form_ != nullptr ? *form_->toolbox_ : noContainer().toolbox(); }
 
 bool Place::contains(PixelPoint pointOfForm) const {
@@ -117,6 +123,7 @@ void Place::leaveForm() {
   if (form_ == nullptr) return;
   setCapture(false);
   form_->clock_->stopAll(*this);
+  screenOfForm_ = form_->screen_;
   form_ = nullptr;
 }
 

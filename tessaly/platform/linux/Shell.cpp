@@ -13,8 +13,6 @@
 namespace tessaly::platform {
 namespace {
 
-using namespace shell_result;
-
 /// A text that begins with '-' names a file of the current folder, since no address begins so; as it is it
 /// would be an option.
 std::string argumentOf(const char* file) {
@@ -26,12 +24,12 @@ std::string argumentOf(const char* file) {
 std::intptr_t resultOf(int code) {
   switch (code) {
     case 0:
-      return kSuccess;
+      return shell_result::kSuccess;
     case 1:  // There was nothing to open.
     case 2:
-      return kFileNotFound;
+      return shell_result::kFileNotFound;
     default:
-      return kNoAssociation;
+      return shell_result::kNoAssociation;
   }
 }
 
@@ -39,8 +37,8 @@ class LinuxShell final : public Shell {
  public:
   std::intptr_t ShellExecuteA(WindowHandle /*owner*/, const char* operation, const char* file,
                               const char* /*parameters*/, const char* directory, Long /*show*/) override {
-    if (operation != nullptr && strcasecmp(operation, "open") != 0) return kNoAssociation;
-    if (file == nullptr) return kFileNotFound;
+    if (operation != nullptr && strcasecmp(operation, "open") != 0) return shell_result::kNoAssociation;
+    if (file == nullptr) return shell_result::kFileNotFound;
     const auto opener = openerPath();
     if (!opener) throw RuntimeError(RuntimeError::EntryPointNotFound);
     return open(*opener, argumentOf(file), directory);
@@ -54,9 +52,9 @@ class LinuxShell final : public Shell {
       case Opening::NotStarted:
         throw RuntimeError(RuntimeError::EntryPointNotFound);
       case Opening::NoMemory:
-        return kOutOfMemory;
+        return shell_result::kOutOfMemory;
       case Opening::GoesOn:
-        return kSuccess;
+        return shell_result::kSuccess;
       case Opening::Ended:
         break;
     }
