@@ -1,0 +1,149 @@
+#include "tessaly/hosts/qt/help/PageView.h"
+
+#include <QPainter>
+#include <QTextDocument>
+#include <array>
+
+#include "tessaly/hosts/qt/Text.h"
+#include "tessaly/hosts/qt/help/HelpAddress.h"
+#include "tessaly/hosts/qt/help/Notices.h"
+#include "tessaly/hosts/qt/help/PageText.h"
+
+namespace tessaly::qt {
+namespace {
+
+constexpr int kMargin = 20;
+
+/// Pages are written for paper: their own colours tell nothing of a dark background.
+QPalette paper(QPalette palette) {
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Text, Qt::black);
+  palette.setColor(QPalette::Link, QColor(0x05, 0x63, 0xC1));
+  palette.setColor(QPalette::LinkVisited, QColor(0x6B, 0x3F, 0xA0));
+  return palette;
+}
+
+/// Stands where a page has a picture that its file does not hold. Where there were none, Qt would look for
+/// one among all files.
+QImage missingPicture() {
+  constexpr int kSide = 24;
+  QImage image(kSide, kSide, QImage::Format_ARGB32_Premultiplied);
+  image.fill(QColor(0xF0, 0xF0, 0xF0));
+  QPainter painter(&image);
+  painter.setPen(QColor(0xB0, 0xB0, 0xB0));
+  painter.drawRect(0, 0, kSide - 1, kSide - 1);
+  painter.drawLine(6, 6, kSide - 7, kSide - 7);
+  painter.drawLine(6, kSide - 7, kSide - 7, 6);
+  return image;
+}
+
+bool endsWithOneOf(const QString& name, std::initializer_list<const char*> endings) {
+  return std::any_of(endings.begin(), endings.end(), [&](const char* ending) {
+    return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+  });
+}
+
+bool isPicture(const QString& name) {
+  return endsWithOneOf(name, {".png", ".gif", ".jpg", ".jpeg", ".bmp", ".svg"});
+}
+
+bool isOutside(const QString& scheme) {
+  static const std::array<QLatin1String, 4> kKnown{QLatin1String("http"), QLatin1String("https"),
+                                                   QLatin1String("mailto"), QLatin1String("ftp")};
+  return std::find(kKnown.begin(), kKnown.end(), scheme) != kKnown.end();
+}
+
+/// A relative one comes as an address of the file that it stands in.
+bool leadsIntoArchive(const QUrl& url) {
+  if (HelpShelf::isOwn(url)) return url.path().contains(QLatin1String(".chm::"), Qt::CaseInsensitive);
+  return namesArchive(fromQString(url.toString()));
+}
+
+}  // namespace
+
+PageView::PageView(HelpShelf& shelf, QWidget* parent) : QTextBrowser(parent), shelf_(shelf) {
+  setPalette(paper(palette()));
+  setFrameShape(QFrame::NoFrame);
+  setOpenLinks(false);
+  setAccessibleName(tr("Page"));
+  document()->setDocumentMargin(kMargin);
+  // What pages leave open, as it reads well.
+  document()->setDefaultStyleSheet(
+      QStringLiteral("p, li, dd, td { line-height: 115%; } li { margin-bottom: 4px; }"));
+  connect(this, &QTextBrowser::anchorClicked, this, &PageView::follow);
+  connect(this, &QTextBrowser::sourceChanged, this, &PageView::turnToReading);
+}
+
+void PageView::showPage(const QUrl& url) {
+  const bool isShown = url == source();
+  setSource(url, QTextDocument::HtmlResource);
+  if (isShown) reload();
+}
+
+void PageView::turnToReading() {
+  QTextOption option = document()->defaultTextOption();
+  option.setTextDirection(isRightToLeft_ ? Qt::RightToLeft : Qt::LayoutDirectionAuto);
+  document()->setDefaultTextOption(option);
+}
+
+QVariant PageView::loadResource(int type, const QUrl& name) {
+  const QUrl url = name.isRelative() ? source().resolved(name) : name;
+  if (type == QTextDocument::HtmlResource) {
+    const QString page = html(url);
+    isRightToLeft_ = readsFromTheRight(page);
+    return page;
+  }
+  if (type == QTextDocument::ImageResource) return picture(url);
+  const HelpBook* const book = shelf_.book(HelpShelf::numberOf(url));
+  const auto bytes = book != nullptr ? book->read(HelpShelf::referenceOf(url)) : std::nullopt;
+  return bytes ? pageText(*bytes, book->codePage()) : QStringLiteral("");
+}
+
+QString PageView::html(const QUrl& url) const {
+  const HelpBook* const book = shelf_.book(HelpShelf::numberOf(url));
+  const auto page = book != nullptr ? book->find(HelpShelf::referenceOf(url)) : std::nullopt;
+  const QString name = page ? toQString(page->page) : QString();
+  if (isPicture(name)) return QStringLiteral("<img src=\"%1\">").arg(url.toString(QUrl::FullyEncoded));
+  const auto bytes = page ? book->read(page->page) : std::nullopt;
+  if (!bytes) return noticeFor(shelf_, url);
+  const QString text = pageText(*bytes, book->codePage());
+  if (endsWithOneOf(name, {".txt", ".log"})) {
+    return QStringLiteral("<pre style=\"white-space: pre-wrap\">%1</pre>").arg(text.toHtmlEscaped());
+  }
+  return isFitToShow(text) && !text.trimmed().isEmpty() ? withTypedStyles(text) : noticeFor(shelf_, url);
+}
+
+QVariant PageView::picture(const QUrl& url) const {
+  const HelpBook* const book = shelf_.book(HelpShelf::numberOf(url));
+  const auto page = book != nullptr ? book->find(HelpShelf::referenceOf(url)) : std::nullopt;
+  const auto bytes = page ? book->read(page->page) : std::nullopt;
+  if (!bytes) return missingPicture();
+  const QImage image = QImage::fromData(QByteArrayView(bytes->data(), static_cast<qsizetype>(bytes->size())));
+  return image.isNull() ? missingPicture() : image;
+}
+
+void PageView::follow(const QUrl& url) {
+  const QString link = url.toString();
+  const int number = HelpShelf::numberOf(source());
+  if (leadsIntoArchive(url)) {
+    followIntoArchive(link);
+  } else if (HelpShelf::isOwn(url)) {
+    const HelpBook* const book = shelf_.book(number);
+    const QUrl target = shelf_.urlOf(number, HelpShelf::referenceOf(url));
+    setSource(book != nullptr ? target : url, QTextDocument::HtmlResource);
+  } else if (isOutside(url.scheme())) {
+    emit outsideLinkChosen(url);
+  } else if (url.scheme() != QLatin1String("javascript")) {
+    setSource(HelpShelf::urlOfLink(number, link), QTextDocument::HtmlResource);
+  }
+}
+
+void PageView::followIntoArchive(const QString& link) {
+  const HelpAddress address = helpAddress(fromQString(link));
+  const int number = shelf_.openBeside(HelpShelf::numberOf(source()), percentDecoded(address.file));
+  const HelpBook* const book = shelf_.book(number);
+  const bool isHome = tidyPath(address.page).empty() && book != nullptr && book->home();
+  setSource(shelf_.urlOf(number, isHome ? book->home()->page : address.page), QTextDocument::HtmlResource);
+}
+
+}  // namespace tessaly::qt
