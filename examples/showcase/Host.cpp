@@ -17,6 +17,14 @@ tessaly::CRegistry machineSettings() {
 
 tessaly::String languagesFolder() { return machineSettings().GetString(kFolderValue, kLanguagesFolder); }
 
+tessaly::String reportsFolder() {
+  constexpr tessaly::Long currentUser = 2;
+  tessaly::CRegistry settings;
+  settings.root(currentUser);
+  settings.rootPath(kUserKey);
+  return settings.GetString(kReportsValue, kReportsFolder);
+}
+
 void start(tessaly::CResources& resources) {
   resources.applicationGUID(kApplicationGUID);
   if (machineSettings().StringKeyExists(kFolderValue)) {
@@ -32,6 +40,10 @@ std::vector<tessaly::Long> languages(tessaly::CResources& resources) {
     numbers.push_back(resources.resLangID(position));
   }
   return numbers;
+}
+
+tessaly::String languageName(tessaly::CResources& resources, tessaly::Long place) {
+  return place == 0 ? tessaly::String(u"English") : resources.resLang(place);
 }
 
 }  // namespace showcase

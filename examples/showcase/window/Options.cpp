@@ -1,23 +1,11 @@
 #include "examples/showcase/window/Options.h"
 
-#include <charconv>
-#include <string>
-
-#include "tessaly/base/Text.h"
+#include "examples/showcase/window/Numbers.h"
 
 namespace showcase {
 namespace {
 
-using tessaly::Long;
 using tessaly::String;
-
-std::optional<Long> numberOf(const String& word) {
-  const std::string text = tessaly::toUtf8(word);
-  Long number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || number < 1) return std::nullopt;
-  return number;
-}
 
 void takeValue(Options& options, const String& word, const String& value) {
   if (word == u"--picture") {
@@ -25,7 +13,7 @@ void takeValue(Options& options, const String& word, const String& value) {
     if (value.empty()) options.fault = u"--picture needs the name of a file.";
   } else {
     options.language = numberOf(value);
-    if (!options.language) options.fault = u"\"" + value + u"\" is no number of a language.";
+    if (options.language.value_or(0) == 0) options.fault = u"\"" + value + u"\" is no number of a language.";
   }
 }
 

@@ -1,8 +1,11 @@
 #include "examples/showcase/window/Report.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
-#include "examples/showcase/Host.h"
+#include "examples/showcase/window/Folded.h"
+#include "tessaly/base/Text.h"
 
 namespace showcase {
 namespace {
@@ -10,83 +13,134 @@ namespace {
 using tessaly::Long;
 using tessaly::String;
 
-constexpr std::u16string_view kFile = u"Sales.rep";
-constexpr std::u16string_view kReader = u"sales@example.com";
-constexpr std::u16string_view kSought = u"bonus";
-constexpr Long kPages = 9;
-constexpr Long kRows = 240;
-constexpr Long kFilteredRows = 12;
-constexpr Long kZoomStep = 10;
+constexpr Long kRowsOfPage = 16;
 constexpr Long kLeastZoom = 50;
 constexpr Long kMostZoom = 200;
 
+/// The first cell with a text, which is folded already.
+std::optional<Long> columnWith(const ReportRow& row, std::u16string_view text) {
+  const auto cell = std::find_if(row.cells.begin(), row.cells.end(), [&](const String& each) {
+    return folded(each).find(text) != String::npos;
+  });
+  if (cell == row.cells.end()) return std::nullopt;
+  return static_cast<Long>(cell - row.cells.begin());
+}
+
 }  // namespace
 
-void Report::begin(Long pages, bool isNew) {
+void Report::begin() {
+  filter_.clear();
+  seen_ = rowsWith(u"");
+  sortedColumn_.reset();
+  isDescending_ = false;
+  selected_ = 0;
   page_ = 1;
-  pages_ = pages;
-  isNew_ = isNew;
-  isChanged_ = isNew;
-  isFiltered_ = false;
-  timesSent_ = 0;
 }
 
-String Report::beginNew() {
-  begin(1, true);
-  return name();
-}
-
-String Report::open() {
-  begin(kPages, false);
-  return page();
-}
-
-String Report::save() {
-  isChanged_ = false;
-  isNew_ = false;
-  return resources_.res(Done);
-}
-
-String Report::print() { return resources_.resWithArg(PrintingPageOf, page_, pages_); }
-
-String Report::send() {
-  ++timesSent_;
-  return resources_.resWithArg(MessageSentTo, kReader, u"");
-}
-
-String Report::find() { return resources_.resWithArg(TextNotFound, kSought, u""); }
-
-String Report::filter() {
-  isFiltered_ = !isFiltered_;
+void Report::beginNew() {
+  name_.clear();
+  rows_.clear();
+  begin();
   isChanged_ = true;
-  return isFiltered_ ? resources_.resWithArg(RowsSelectedOf, kFilteredRows, kRows)
-                     : resources_.resWithArg(RowsOf, kRows, u"");
 }
 
-String Report::turnBack() {
-  page_ = std::max(page_ - 1, 1);
-  return page();
+void Report::take(std::u16string_view name, std::vector<ReportRow> rows) {
+  name_ = name;
+  rows_ = std::move(rows);
+  begin();
+  isChanged_ = false;
 }
 
-String Report::turnOn() {
-  page_ = std::min(page_ + 1, pages_);
-  return page();
+void Report::markSaved(std::u16string_view name) {
+  name_ = name;
+  isChanged_ = false;
 }
 
-String Report::zoomOut() {
-  zoom_ = std::max(zoom_ - kZoomStep, kLeastZoom);
-  return zoom();
+void Report::sort(Column column, bool isDescending) {
+  const auto isBefore = [column](const ReportRow& one, const ReportRow& other) {
+    if (column == Column::Amount) return one.amount < other.amount;
+    return folded(one.cell(column)) < folded(other.cell(column));
+  };
+  std::stable_sort(rows_.begin(), rows_.end(), [&](const ReportRow& one, const ReportRow& other) {
+    return isDescending ? isBefore(other, one) : isBefore(one, other);
+  });
+  seen_ = rowsWith(filter_);
+  sortedColumn_ = column;
+  isDescending_ = isDescending;
+  isChanged_ = true;
+  select(0);
 }
 
-String Report::zoomIn() {
-  zoom_ = std::min(zoom_ + kZoomStep, kMostZoom);
-  return zoom();
+std::vector<std::size_t> Report::rowsWith(std::u16string_view text) const {
+  std::vector<std::size_t> places;
+  const String sought = folded(text);
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (sought.empty() || columnWith(rows_[i], sought)) places.push_back(i);
+  }
+  return places;
 }
 
-String Report::name() const { return isNew_ ? resources_.res(Untitled) : String(kFile); }
-String Report::page() const { return resources_.resWithArg(PageOf, page_, pages_); }
-String Report::zoom() const { return resources_.resWithArg(ZoomOf, zoom_, u""); }
+bool Report::filter(std::u16string_view text) {
+  auto found = rowsWith(text);
+  if (found.empty() && !text.empty()) return false;
+  seen_ = std::move(found);
+  filter_ = text;
+  select(0);
+  return true;
+}
+
+std::optional<Report::Place> Report::find(std::u16string_view text, Long from) const {
+  const String sought = folded(text);
+  for (auto place = static_cast<std::size_t>(std::max(from, 0)); place < seen_.size(); ++place) {
+    const auto column = columnWith(rows_[seen_[place]], sought);
+    if (column) return Place{static_cast<Long>(place), *column};
+  }
+  return std::nullopt;
+}
+
+void Report::turnTo(Long page) {
+  page_ = std::clamp(page, 1, pages());
+  selected_ = (page_ - 1) * kRowsOfPage;
+}
+
+void Report::select(Long row) {
+  selected_ = std::clamp(row, 0, std::max(seenCount() - 1, 0));
+  page_ = selected_ / kRowsOfPage + 1;
+}
+
+void Report::selectOnPage(Long row) { selected_ = (page_ - 1) * kRowsOfPage + row; }
+
+void Report::zoomTo(Long percent) { zoom_ = std::clamp(percent, kLeastZoom, kMostZoom); }
+
+Long Report::pages() const { return std::max(1, (seenCount() + kRowsOfPage - 1) / kRowsOfPage); }
 bool Report::canZoomOut() const { return zoom_ > kLeastZoom; }
 bool Report::canZoomIn() const { return zoom_ < kMostZoom; }
+
+std::int64_t Report::total() const {
+  return std::accumulate(seen_.begin(), seen_.end(), std::int64_t{0},
+                         [&](std::int64_t sum, std::size_t place) { return sum + rows_[place].amount; });
+}
+
+std::vector<ReportRow> Report::seenRows() const {
+  std::vector<ReportRow> rows;
+  rows.reserve(seen_.size());
+  for (const std::size_t place : seen_) rows.push_back(rows_[place]);
+  return rows;
+}
+
+std::vector<ReportRow> Report::pageRows() const {
+  std::vector<ReportRow> rows = seenRows();
+  const auto begin = rows.begin() + (page_ - 1) * kRowsOfPage;
+  return {begin, begin + std::min<std::ptrdiff_t>(kRowsOfPage, rows.end() - begin)};
+}
+
+Long Report::selectedOnPage() const { return seen_.empty() ? -1 : selected_ % kRowsOfPage; }
+
+String amountText(std::int64_t amount) {
+  std::string digits = std::to_string(amount < 0 ? -amount : amount);
+  if (digits.size() < 3) digits.insert(0, 3 - digits.size(), '0');
+  digits.insert(digits.size() - 2, 1, '.');
+  return tessaly::fromUtf8((amount < 0 ? "-" : "") + digits);
+}
 
 }  // namespace showcase

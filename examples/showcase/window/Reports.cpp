@@ -1,65 +1,190 @@
 #include "examples/showcase/window/Reports.h"
 
-#include <array>
 #include <utility>
 
-#include "examples/showcase/Host.h"
 #include "examples/showcase/Tracing.h"
+#include "examples/showcase/window/Dialogs.h"
+#include "examples/showcase/window/Menu.h"
 #include "examples/showcase/window/Names.h"
+#include "tessaly/base/RuntimeError.h"
+#include "tessaly/base/Text.h"
+#include "tessaly/dialogs/CHelp.h"
 
 namespace showcase {
-namespace {
 
 using tessaly::Long;
 using tessaly::String;
 
-using Act = String (Report::*)();
+namespace {
 
-constexpr std::array<Act, kTools> kActs = {
-    &Report::beginNew, &Report::open,     &Report::save,   &Report::print,   &Report::send,  &Report::find,
-    &Report::filter,   &Report::turnBack, &Report::turnOn, &Report::zoomOut, &Report::zoomIn};
+constexpr Long kUsualPoints = 10;
+
+/// The page of help on the window itself.
+constexpr std::u16string_view kPage = u"reports";
+constexpr std::u16string_view kFirstReport = u"Sales.rep";
+
+Grid::Heading heading(const tessaly::CResources& resources, Text slot) {
+  return {resources.res(slot), slot == AmountHeading};
+}
+
+std::vector<String> cellsOf(const ReportRow& row, const tessaly::CResources& resources) {
+  std::vector<String> cells(row.cells.begin(), row.cells.end());
+  for (String& cell : cells) {
+    if (cell.empty()) cell = resources.res(EmptyCell);
+  }
+  return cells;
+}
 
 }  // namespace
 
-Reports::Reports(Window& window, const tessaly::CResources& resources, std::function<String()> clock)
-    : window_(window), resources_(resources), clock_(std::move(clock)), report_(resources), toolBar_(window) {
+Reports::Reports(Window& window, tessaly::CResources& resources, Preferences preferences, String folder,
+                 std::function<String()> clock)
+    : window_(window),
+      resources_(resources),
+      shelf_(std::move(folder)),
+      clock_(std::move(clock)),
+      preferences_(std::move(preferences)),
+      toolBar_(window),
+      desk_(window, resources,
+            [this](std::u16string_view event, const Saying& comment) { tell(under_, event, comment); }) {
   for (Long place = 0; place < kTools; ++place) listenTo(static_cast<Tool>(place));
+  listenToWindow();
+  openFirst();
   speak();
 }
 
-void Reports::speak() {
-  window_.setListFont(resources_.gridFontName(), resources_.gridFontSize());
-  window_.setColumns({resources_.res(TimeHeading), resources_.res(NameHeading), resources_.res(TypeHeading),
-                      resources_.res(CommentHeading)});
-  toolBar_.speak(resources_);
-  showState(resources_.res(Ready));
+Reports::~Reports() {
+  window_.handlers = {};
+  for (Long place = 0; place < kTools; ++place) button(static_cast<Tool>(place)).events = {};
+}
+
+void Reports::listenToWindow() {
+  window_.handlers.onCommand = [this](Long id) { perform(static_cast<Command>(id), u"Menu"); };
+  window_.handlers.onHeading = [this](Long column) {
+    const bool isAgain = report_.sortedColumn() == static_cast<Column>(column);
+    takeSelection();
+    message_ = sortBy(column, isAgain && !report_.isDescending());
+    tell(message_, u"Heading", std::nullopt);
+    show();
+  };
+  window_.handlers.onKey = [this](std::int16_t key, std::int16_t shift) {
+    under_ = HelpMenu;
+    if (desk_.helpKey(key, shift, window_.handle(), kPage)) return true;
+    const auto command = commandOf(key, shift);
+    if (command) perform(*command, u"Key");
+    return command.has_value();
+  };
+  window_.handlers.onClose = [this] { return close(); };
 }
 
 void Reports::listenTo(Tool tool) {
   auto& events = toolBar_.button(tool).events;
-  events.OnButtonSelected = [this, tool] { tell(tool, u"OnButtonSelected", u""); };
-  events.OnButtonSelectedTiming = [this, tool] { tell(tool, u"OnButtonSelectedTiming", u""); };
-  events.OnButtonClick = [this, tool] { click(tool); };
+  const Text name = slotOf(commandOf(tool));
+  events.OnButtonSelected = [this, name] { tell(name, u"OnButtonSelected", std::nullopt); };
+  events.OnButtonSelectedTiming = [this, name] { tell(name, u"OnButtonSelectedTiming", std::nullopt); };
+  events.OnButtonClick = [this, tool] { perform(commandOf(tool), u"OnButtonClick"); };
 }
 
-void Reports::click(Tool tool) {
-  const String answer = (report_.*kActs[static_cast<std::size_t>(tool)])();
-  showState(answer);
-  tell(tool, u"OnButtonClick", answer);
+void Reports::openFirst() {
+  const auto names = shelf_.names();
+  if (shelf_.has(preferences_.report) && open(preferences_.report)) return;
+  if (names.empty() || !open(shelf_.has(kFirstReport) ? String(kFirstReport) : names[0])) report_.beginNew();
 }
 
-void Reports::tell(Tool tool, std::u16string_view event, String comment) {
-  const String name = nameOf(resources_.res(slotOf(tool)));
-  traceStep(name + u": " + String(event));
-  const bool isMinor = comment.empty();
-  events_.push_back({{clock_(), name, String(event), std::move(comment)}, isMinor});
-  window_.addEvent(events_.back());
+void Reports::perform(Command command, std::u16string_view event) try {
+  const bool isLanguage = command >= Command::FirstLanguage;
+  under_ = isLanguage ? Saying(ToolsMenu) : Saying(slotOf(command));
+  const Saying name = under_;
+  takeSelection();
+  message_ = act(command);
+  tell(name, event, message_);
+  show();
+} catch (const tessaly::RuntimeError& error) {
+  desk_.show(Desk::kError, {UnexpectedError, error.number(), tessaly::fromUtf8(error.what())});
 }
 
-void Reports::showState(const String& message) {
-  toolBar_.show(report_);
-  window_.setTitle(report_.name() + (report_.isChanged() ? u"* - " : u" - ") + u"Tessaly Reports");
-  window_.setStatus({message, report_.page(), report_.zoom()});
+Saying Reports::chooseLanguage(Long place) {
+  preferences_.language = languages(resources_).at(static_cast<std::size_t>(place));
+  keep();
+  return Saying(resources_.langName());
+}
+
+void Reports::takeSelection() {
+  const Long row = window_.selectedRow();
+  if (row >= 0) report_.selectOnPage(row);
+}
+
+void Reports::keep() {
+  storePreferences(preferences_, resources_);
+  speakAs(resources_, preferences_.language, preferences_.showsStringNumbers);
+  speak();
+}
+
+bool Reports::close() {
+  if (!isSettled()) return false;
+  // A language that was asked for at the start is for this time alone.
+  Preferences kept = loadPreferences();
+  kept.report = report_.name();
+  storePreferences(kept, resources_);
+  tessaly::CHelp().CloseHelp();
+  return true;
+}
+
+String Reports::nameShown() const { return report_.name().empty() ? resources_.res(Untitled) : report_.name(); }
+
+Saying Reports::rowsShown() const {
+  if (report_.isFiltered()) return {RowsSelectedOf, report_.seenCount(), report_.rowCount()};
+  return {RowsOf, report_.rowCount()};
+}
+
+void Reports::speak() {
+  toolBar_.speak(resources_);
+  window_.setEventHeadings({resources_.res(TimeHeading), resources_.res(NameHeading),
+                            resources_.res(TypeHeading), resources_.res(CommentHeading)});
+  std::vector<Event> events;
+  for (const Happening& happening : events_) events.push_back(eventOf(happening));
+  window_.setEvents(events);
+  show();
+}
+
+void Reports::show() {
+  toolBar_.show(report_, timesSent_);
+  auto menus = menusFor(report_, resources_, preferences_.showsStringNumbers);
+  if (menus != menus_) window_.setMenu(menus_ = std::move(menus));
+  window_.setTitle(nameShown() + (report_.isChanged() ? u"* - " : u" - ") + String(kProgram));
+  window_.setStatus({message_.in(resources_), resources_.resWithArg(PageOf, report_.page(), report_.pages()),
+                     resources_.resWithArg(ZoomOf, report_.zoom(), u"")});
+  showRows();
+}
+
+void Reports::showRows() {
+  const Long points = preferences_.gridFontSize > 0   ? preferences_.gridFontSize
+                      : resources_.gridFontSize() > 0 ? resources_.gridFontSize()
+                                                      : kUsualPoints;
+  window_.setGridFont(preferences_.gridFont.empty() ? resources_.gridFontName() : preferences_.gridFont,
+                      points * report_.zoom() / 100);
+  Grid grid;
+  for (const Text slot : {DateHeading, OwnerHeading, TypeHeading, AmountHeading, CommentHeading}) {
+    grid.headings.push_back(heading(resources_, slot));
+  }
+  for (const ReportRow& row : report_.pageRows()) grid.rows.push_back(cellsOf(row, resources_));
+  grid.selected = report_.selectedOnPage();
+  grid.isDescending = report_.isDescending();
+  if (const auto column = report_.sortedColumn()) grid.sortedColumn = static_cast<Long>(*column);
+  window_.setGrid(grid);
+}
+
+Event Reports::eventOf(const Happening& happening) const {
+  const String comment = happening.comment ? happening.comment->in(resources_) : String();
+  return {{happening.time, nameOf(happening.name.in(resources_)), happening.event, comment},
+          !happening.comment};
+}
+
+void Reports::tell(const Saying& name, std::u16string_view event, std::optional<Saying> comment) {
+  events_.push_back({clock_(), name, String(event), std::move(comment)});
+  const Event line = eventOf(events_.back());
+  traceStep(line.cells[1] + u": " + line.cells[2] + (line.isMinor ? u"" : u": ") + line.cells[3]);
+  window_.addEvent(line);
 }
 
 }  // namespace showcase

@@ -22,9 +22,9 @@ constexpr tessaly::OLE_COLOR kOnColour = 0xF6DFC8;
 constexpr Long kFirstTiming = 400;
 constexpr Long kTiming = 120;
 
-constexpr std::array<Text, kTools> kSlots = {NewReport,  OpenFile, SaveFile,   PrintFile,
-                                             SendByMail, FindText, FilterRows, PreviousPage,
-                                             NextPage,   ZoomOut,  ZoomIn};
+constexpr std::array<Command, kTools> kCommands = {
+    Command::New,    Command::Open,         Command::Save,     Command::Print,   Command::Mail,  Command::Find,
+    Command::Filter, Command::PreviousPage, Command::NextPage, Command::ZoomOut, Command::ZoomIn};
 
 bool beginsGroup(Tool tool) {
   return tool == Tool::Print || tool == Tool::Find || tool == Tool::Back || tool == Tool::Smaller;
@@ -44,7 +44,7 @@ void setEnabled(tessaly::transparentBitmap& button, bool isEnabled) {
 
 }  // namespace
 
-Long slotOf(Tool tool) { return kSlots[static_cast<std::size_t>(tool)]; }
+Command commandOf(Tool tool) { return kCommands[static_cast<std::size_t>(tool)]; }
 
 ToolBar::ToolBar(Window& window) : window_(window) {
   for (Long place = 0; place < kTools; ++place) addButton(static_cast<Tool>(place));
@@ -75,7 +75,7 @@ void ToolBar::speak(const tessaly::CResources& resources) {
   for (const Tool tool : {Tool::Back, Tool::On}) setPictures(tool, isFromRight_ ? mirrored(tool) : tool);
   for (Long place = 0; place < kTools; ++place) {
     const Tool tool = static_cast<Tool>(place);
-    window_.nameButton(button(tool), nameOf(resources.res(slotOf(tool))));
+    window_.nameButton(button(tool), nameOf(resources.res(slotOf(commandOf(tool)))));
   }
 }
 
@@ -84,15 +84,17 @@ void ToolBar::pin(Tool tool, Long overlay) {
   button(tool).AddBitmap(pictures_.overlay(overlay), corner, kToolBarColour);
 }
 
-void ToolBar::show(const Report& report) {
+void ToolBar::show(const Report& report, Long timesSent) {
   setEnabled(button(Tool::Save), report.isChanged());
-  setEnabled(button(Tool::Back), report.canTurnBack());
-  setEnabled(button(Tool::On), report.canTurnOn());
+  setEnabled(button(Tool::Find), report.seenCount() > 0);
+  setEnabled(button(Tool::Filter), report.seenCount() > 0);
+  setEnabled(button(Tool::Back), report.page() > 1);
+  setEnabled(button(Tool::On), report.page() < report.pages());
   setEnabled(button(Tool::Smaller), report.canZoomOut());
   setEnabled(button(Tool::Larger), report.canZoomIn());
   for (const Tool tool : {Tool::Save, Tool::Mail, Tool::Filter}) button(tool).ClearBitmaps();
   if (report.isChanged()) pin(Tool::Save, ToolPictures::Changed);
-  if (report.timesSent() > 0) pin(Tool::Mail, ToolPictures::Number + std::min(report.timesSent(), 9) - 1);
+  if (timesSent > 0) pin(Tool::Mail, ToolPictures::Number + std::min(timesSent, 9) - 1);
   if (report.isFiltered()) pin(Tool::Filter, ToolPictures::On);
   button(Tool::Filter).backcolor(report.isFiltered() ? kOnColour : kToolBarColour);
 }

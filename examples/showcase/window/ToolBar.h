@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "examples/showcase/window/Commands.h"
 #include "examples/showcase/window/Report.h"
 #include "examples/showcase/window/ToolPictures.h"
 #include "examples/showcase/window/Window.h"
@@ -12,8 +13,8 @@ namespace showcase {
 enum class Tool : tessaly::Long { New, Open, Save, Print, Mail, Find, Filter, Back, On, Smaller, Larger };
 inline constexpr tessaly::Long kTools = 11;
 
-/// The slot of a tool's text.
-tessaly::Long slotOf(Tool tool);
+/// What a tool does.
+Command commandOf(Tool tool);
 
 /// The picture buttons, in groups.
 class ToolBar {
@@ -27,7 +28,7 @@ class ToolBar {
   void speak(const tessaly::CResources& resources);
 
   /// Shows which of them there is something to do for, and what their overlays tell.
-  void show(const Report& report);
+  void show(const Report& report, tessaly::Long timesSent);
 
  private:
   void addButton(Tool tool);

@@ -1,14 +1,14 @@
-// A host with a window: a tool bar of picture buttons, and a list of what they tell.
+// A host with a window: a browser of reports, with a menu, a tool bar of picture buttons, dialogs and help.
 
 #include <algorithm>
 #include <ctime>
-#include <filesystem>
 #include <fstream>
 
 #include "examples/showcase/Host.h"
 #include "examples/showcase/Tracing.h"
 #include "examples/showcase/window/OpenWindow.h"
 #include "examples/showcase/window/Options.h"
+#include "examples/showcase/window/Paths.h"
 #include "examples/showcase/window/Road.h"
 #include "examples/support/Print.h"
 #include "tessaly/base/RuntimeError.h"
@@ -17,6 +17,7 @@
 using examples::printLine;
 using examples::textOf;
 using showcase::Options;
+using showcase::Preferences;
 using showcase::Reports;
 using showcase::Window;
 using tessaly::CResources;
@@ -25,6 +26,7 @@ using tessaly::String;
 namespace {
 
 constexpr int kFailure = 2;
+constexpr std::size_t kStepWidth = 13;
 
 int complain(const String& fault) {
   printLine(u"showcase-window: ", fault);
@@ -35,7 +37,7 @@ int usage(const String& fault) {
   printLine(u"showcase-window [--language NUMBER] [--picture FILE.png]");
   printLine(
       u"  opens the window, in the user's language or another one; with --picture it needs no display:");
-  printLine(u"  it clicks by itself, tells what happens, and writes the window as a picture");
+  printLine(u"  it clicks by itself, tells what happens, and writes the window, a dialog and help as pictures");
   return complain(fault);
 }
 
@@ -52,56 +54,81 @@ String numbersOf(CResources& resources) {
   return list;
 }
 
-/// Chooses the language that is asked for; false where there is none of that number.
-bool chooseLanguage(CResources& resources, const Options& options) {
-  if (!options.language) {
-    resources.SetDefaultLang();
-    return true;
-  }
+/// Chooses the language that is asked for, or else the user's; false where there is none of that number.
+bool chooseLanguage(CResources& resources, Preferences& preferences, const Options& options) {
   const auto known = showcase::languages(resources);
-  if (std::find(known.begin(), known.end(), *options.language) == known.end()) return false;
-  resources.lang(*options.language);
+  preferences.language = options.language.value_or(preferences.language);
+  if (options.language && std::find(known.begin(), known.end(), *options.language) == known.end()) return false;
+  showcase::speakAs(resources, preferences.language, preferences.showsStringNumbers);
   return true;
 }
 
-int save(const tessaly::Picture& picture, const String& file) {
-  const std::string bytes = tessaly::pngOf(picture);
-  // What is no text in a name becomes U+FFFD, since a path would refuse it.
-  const std::filesystem::path path(tessaly::fromUtf8(tessaly::toUtf8(file)));
-  std::ofstream out(path, std::ios::binary);
+struct NotWritten {
+  String file;
+};
+
+void save(const tessaly::PictureReference& picture, const String& file) {
+  if (picture == nullptr) return;
+  const std::string bytes = tessaly::pngOf(*picture);
+  std::ofstream out(showcase::pathOf(file), std::ios::binary);
   out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   out.close();
-  return out ? 0 : complain(u"Can't write " + file);
+  if (!out) throw NotWritten{file};
 }
 
-int walkAndDraw(Window& window, Reports& reports, const String& file) {
-  walk(window, reports);
-  for (const showcase::Event& event : reports.events()) {
-    printLine(event.cells[1], u"  ", event.cells[2], event.isMinor ? u"" : u"  ", event.cells[3]);
+/// "window.png" as "window-help.png".
+String besides(const String& file, std::u16string_view word) {
+  const std::size_t end = file.ends_with(u".png") ? file.size() - 4 : file.size();
+  return file.substr(0, end).append(u"-").append(word).append(file, end);
+}
+
+void sayStep(std::u16string_view step, const String& outcome) {
+  printLine(step, String(step.size() < kStepWidth ? kStepWidth - step.size() : 1, u' '), outcome);
+}
+
+String traceState() {
+  if (tessaly::logger == nullptr) return u"off in the machine's settings";
+  return tessaly::logger->Connected() ? u"sent to the logger, line by line" : u"on, but no logger runs";
+}
+
+/// Without a display: does by itself what a user does, and draws what he would see.
+void walkAndDraw(Window& window, CResources& resources, const Preferences& preferences, const String& file) {
+  const showcase::Unseen unseen(showcase::drawsHelp());
+  {
+    Reports reports(window, resources, preferences, showcase::reportsFolder(), timeOfDay);
+    sayStep(u"window", reports.report().name() + u", " +
+                           resources.resWithArg(showcase::RowsOf, reports.report().rowCount(), u""));
+    const auto pictures = showcase::walk(window, reports, resources, unseen, sayStep);
+    sayStep(u"trace", traceState());
+    window.close();
+    window.run();
+    sayStep(u"closed", unseen.boxes.boxes().back().text);
+    save(pictures.window, file);
+    save(pictures.settings, besides(file, u"settings"));
+    save(pictures.help, besides(file, u"help"));
   }
-  window.point(reports.button(showcase::Tool::On));
-  return save(*window.picture(), file);
 }
 
-int openAndRun(CResources& resources, const String& picture, int argc, char** argv) {
+void openAndRun(CResources& resources, const Preferences& preferences, const String& picture, int argc,
+                char** argv) {
   const auto window = showcase::openWindow(argc, argv, picture.empty());
-  Reports reports(*window, resources, timeOfDay);
-  if (!picture.empty()) return walkAndDraw(*window, reports, picture);
+  if (!picture.empty()) return walkAndDraw(*window, resources, preferences, picture);
+  Reports reports(*window, resources, preferences, showcase::reportsFolder(), timeOfDay);
   window->run();
-  return 0;
 }
 
 int runAs(const Options& options, int argc, char** argv) {
   tessaly::StartLogger();
-  showcase::traceStep(u"Tessaly Reports opens its window");
+  showcase::traceStep(u"Tessaly Reports begins");
   CResources resources;
   showcase::start(resources);
-  if (!chooseLanguage(resources, options)) {
+  Preferences preferences = showcase::loadPreferences();
+  if (!chooseLanguage(resources, preferences, options)) {
     return complain(u"There is no language " + textOf(*options.language) + u", only" + numbersOf(resources));
   }
-  const int exitCode = openAndRun(resources, options.picture, argc, argv);
-  showcase::traceStep(u"Tessaly Reports closes its window");
-  return exitCode;
+  openAndRun(resources, preferences, options.picture, argc, argv);
+  showcase::traceStep(u"Tessaly Reports ends");
+  return 0;
 }
 
 }  // namespace
@@ -110,6 +137,8 @@ int main(int argc, char** argv) try {
   const Options options = showcase::optionsOf(examples::arguments(argc, argv));
   if (!options.fault.empty()) return usage(options.fault);
   return runAs(options, argc, argv);
+} catch (const NotWritten& fault) {
+  return complain(u"Can't write " + fault.file);
 } catch (const tessaly::RuntimeError& error) {
   return complain(u"Error " + textOf(error.number()) + u": " + tessaly::fromUtf8(error.what()) +
                   u" (start it in the project's folder)");

@@ -14,7 +14,7 @@ namespace {
 constexpr QColor kInk(0x22, 0x2B, 0x36);
 constexpr QColor kLineColour(0xD3, 0xD8, 0xDF);
 constexpr QColor kAccent(0x2F, 0x7F, 0xC4);
-constexpr std::array<int, 3> kColumns = {92, 170, 170};
+constexpr std::array<int, 3> kEventColumns = {92, 170, 170};
 
 /// A control's colour as Qt has it.
 QColor ground() { return {kToolBarColour & 0xFF, kToolBarColour >> 8 & 0xFF, kToolBarColour >> 16 & 0xFF}; }
@@ -79,18 +79,32 @@ QVBoxLayout* makeColumn(QWidget& parent) {
   return column;
 }
 
-QTreeWidget* makeList() {
+QTreeWidget* makeRows() {
   auto* const list = new QTreeWidget;
-  list->setColumnCount(static_cast<int>(kColumns.size()) + 1);
-  for (std::size_t i = 0; i < kColumns.size(); ++i) {
-    list->setColumnWidth(static_cast<int>(i), kColumns[i]);
-  }
   list->setStyleSheet(QString::fromLatin1(kListLook));
   list->setAllColumnsShowFocus(true);
   list->setRootIsDecorated(false);
   list->setUniformRowHeights(true);
   list->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   return list;
+}
+
+void setHeadings(QTreeWidget& list, const QStringList& headings) {
+  if (list.columnCount() != headings.size()) list.setColumnCount(static_cast<int>(headings.size()));
+  list.setHeaderLabels(headings);
+  list.setAccessibleName(headings.join(QStringLiteral(", ")));
+}
+
+QTreeWidgetItem* addRow(QTreeWidget& list, const QStringList& cells) {
+  auto* const row = new QTreeWidgetItem(&list);
+  for (int column = 0; column < cells.size(); ++column) row->setText(column, cells[column]);
+  return row;
+}
+
+void fitEvents(QTreeWidget& list) {
+  for (std::size_t i = 0; i < kEventColumns.size(); ++i) {
+    list.setColumnWidth(static_cast<int>(i), kEventColumns[i]);
+  }
 }
 
 std::array<QLabel*, 3> addStatus(QMainWindow& window) {

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
+#include <QStringList>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <array>
@@ -26,8 +27,13 @@ QWidget* makeToolBar();
 QHBoxLayout* makeRow(QWidget& parent);
 QVBoxLayout* makeColumn(QWidget& parent);
 
-/// A list of four columns.
-QTreeWidget* makeList();
+/// A list of rows, without columns yet, and the number of those that it has from then on; a new row of it.
+QTreeWidget* makeRows();
+void setHeadings(QTreeWidget& list, const QStringList& headings);
+QTreeWidgetItem* addRow(QTreeWidget& list, const QStringList& cells);
+
+/// The list of events is as wide as its texts want.
+void fitEvents(QTreeWidget& list);
 
 /// The line at the bottom in three parts.
 std::array<QLabel*, 3> addStatus(QMainWindow& window);
