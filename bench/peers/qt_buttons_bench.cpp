@@ -1,16 +1,14 @@
-// A picture button in a widget beside Qt's own tool button with the same picture as its icon, both in a
-// window that is shown, without a display. Both get the same events, and what they are to paint is painted.
-// The pictures are made beforehand. Qt's button looks for itself whether the pointer has left; the picture
-// button gets the tick of its poll that finds it gone.
+// A picture button in a widget beside Qt's own tool button, flat as well, with the same picture as its icon:
+// both in a window that is shown, without a display. Both get the same events, and what they are to paint is
+// painted. The pictures are made beforehand. Qt's button looks for itself whether the pointer has left; the
+// picture button gets the tick of its poll that finds it gone.
 
 #include <benchmark/benchmark.h>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <QEnterEvent>
 #include <QMouseEvent>
 #include <QToolButton>
-#include <functional>
 #include <memory>
 #include <vector>
 

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstdint>
 
-#include "tessaly/base/Rounding.h"
 #include "tessaly/base/RuntimeError.h"
 #include "tessaly/forms/Label.h"
 #include "tessaly/forms/UserControl.h"
