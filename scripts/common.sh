@@ -11,7 +11,7 @@ shownLogLines="${shownLogLines:-30}" # how much of its log a failing step shows
 buildPackages=(g++ cmake ninja-build libexpat1-dev libicu-dev libsqlite3-dev libgdk-pixbuf-2.0-dev
   pkg-config qt6-base-dev libmspack-dev)
 demoPackages=("${buildPackages[@]}" fp-utils)
-testPackages=("${buildPackages[@]}" googletest python3 dpkg-dev file)
+testPackages=("${buildPackages[@]}" googletest python3 dpkg-dev file xdotool xvfb)
 windowsPackages=(g++-mingw-w64-x86-64-posix wine wine64)
 fuzzPackages=("${buildPackages[@]}" clang libclang-rt-dev)
 export buildPackages demoPackages testPackages windowsPackages fuzzPackages jobs

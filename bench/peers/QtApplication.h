@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QGuiApplication>
+#include <QApplication>
 
 namespace tessaly::bench {
 
-/// What Qt's pictures need of an application, without a display; the first one serves the whole program.
+/// What Qt's pictures and widgets need of an application, without a display; the first one serves the whole
+/// program and stays, since at its end Qt would look for what is gone.
 class QtApplication {
  public:
   QtApplication() {
@@ -13,7 +14,7 @@ class QtApplication {
     static int count = 1;
     static char name[] = "bench";
     static char* arguments[] = {name, nullptr};
-    static QGuiApplication application(count, arguments);
+    new QApplication(count, arguments);
   }
 };
 

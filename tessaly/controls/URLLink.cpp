@@ -14,7 +14,6 @@
 namespace tessaly {
 namespace {
 
-constexpr MouseState kOpeningButton = 1;
 constexpr std::int16_t kUsualPointer = 0;
 constexpr std::int16_t kHourglass = 11;
 constexpr Long kStopSign = 0x10;
@@ -71,7 +70,7 @@ void URLLink::Resize() {
 
 // A host that does not want the click keeps the pointer that it has set; any other press loses it.
 void URLLink::lblURLMouseDown(MouseState button, MouseState /*shift*/, float /*x*/, float /*y*/) {
-  if ((button & kOpeningButton) != 0) {
+  if ((button & kLeftButton) != 0) {
     String address = url_;
     if (!isWanted(address)) return;
     open(address);

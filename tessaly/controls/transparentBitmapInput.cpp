@@ -11,7 +11,6 @@
 namespace tessaly {
 namespace {
 
-constexpr std::int16_t kLeftButton = 1;
 constexpr Long kPollMilliseconds = 50;
 
 /// Calls what the host wants to hear of. A copy, since the host may let go of the control or set the field

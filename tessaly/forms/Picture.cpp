@@ -11,9 +11,23 @@
 namespace tessaly {
 namespace {
 
+/// What all pixels have in common in how they cover, and what those lack that cover at all.
+struct Covering {
+  std::uint32_t all = kCovers;
+  std::uint32_t lacking = 0;
+};
+
 /// Pixels are either seen or not where a picture is cut out by a colour, so what is hardly there goes.
-void clearFaint(std::vector<std::uint32_t>& pixels) {
-  for (std::uint32_t& pixel : pixels) pixel = pixel < kCoversHalf ? 0 : pixel;
+/// Without branches, so that several pixels are looked at together.
+Covering clearFaint(std::vector<std::uint32_t>& pixels) {
+  Covering covering;
+  for (std::uint32_t& pixel : pixels) {
+    const std::uint32_t seen = 0U - (pixel >> 31);
+    covering.lacking |= ~pixel & seen;
+    pixel &= seen;
+    covering.all &= pixel;
+  }
+  return covering;
 }
 
 bool fits(PixelSize size, std::size_t count) {
@@ -27,9 +41,9 @@ bool fits(PixelSize size, std::size_t count) {
 Picture::Picture(PixelSize size, std::vector<std::uint32_t> pixels)
     : size_(size), pixels_(std::move(pixels)) {
   if (!fits(size_, pixels_.size())) throw RuntimeError(RuntimeError::InvalidPicture);
-  clearFaint(pixels_);
-  isOpaque_ =
-      std::all_of(pixels_.begin(), pixels_.end(), [](std::uint32_t pixel) { return pixel >= kCovers; });
+  const auto [all, lacking] = clearFaint(pixels_);
+  isOpaque_ = (all & kCovers) == kCovers;
+  isCutOut_ = (lacking & kCovers) == 0;
 }
 
 PictureReference LoadPicture(std::u16string_view name) {

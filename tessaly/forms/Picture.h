@@ -30,6 +30,9 @@ class TESSALY_DESKTOP_API Picture {
   /// Whether every pixel covers wholly.
   bool isOpaque() const { return isOpaque_; }
 
+  /// Whether every pixel covers wholly or not at all.
+  bool isCutOut() const { return isCutOut_; }
+
   /// The natural size in pixels; 0 by 0 for an empty picture.
   PixelSize size() const { return size_; }
   std::span<const std::uint32_t> pixels() const { return pixels_; }
@@ -38,6 +41,7 @@ class TESSALY_DESKTOP_API Picture {
   PixelSize size_;
   std::vector<std::uint32_t> pixels_;
   bool isOpaque_ = true;
+  bool isCutOut_ = true;
 };
 
 /// A reference to a picture, or none.

@@ -64,9 +64,12 @@ void PictureBox::resize(PixelSize size) {
 }
 
 void PictureBox::clear() {
-  const bool isCovered = picture_ && picture_->isOpaque() && picture_->size() == surface_.size();
-  if (!isCovered) surface_.fill(pixelOf(shownColour(backColor_, parent_->container())));
-  if (picture_) surface_.paint(*picture_);
+  const std::uint32_t background = pixelOf(shownColour(backColor_, parent_->container()));
+  if (picture_) {
+    surface_.paint(*picture_, background);
+  } else {
+    surface_.fill(background);
+  }
 }
 
 }  // namespace tessaly

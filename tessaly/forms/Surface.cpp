@@ -27,11 +27,17 @@ std::uint32_t over(std::uint32_t pixel, std::uint32_t under) {
   return result;
 }
 
-void paintRow(std::span<const std::uint32_t> from, std::uint32_t* to, bool isOpaque) {
-  if (isOpaque) {
+/// Row by row, each over a background of one colour.
+void paintRow(std::span<const std::uint32_t> from, std::uint32_t* to, const Picture& picture,
+              std::uint32_t background) {
+  if (picture.isOpaque()) {
     std::transform(from.begin(), from.end(), to, [](std::uint32_t pixel) { return pixel & kColour; });
+  } else if (picture.isCutOut()) {
+    std::transform(from.begin(), from.end(), to,
+                   [background](std::uint32_t pixel) { return pixel != 0 ? pixel & kColour : background; });
   } else {
-    std::transform(from.begin(), from.end(), to, to, over);
+    std::transform(from.begin(), from.end(), to,
+                   [background](std::uint32_t pixel) { return over(pixel, background); });
   }
 }
 
@@ -71,7 +77,8 @@ void Surface::fill(std::uint32_t pixel) const {
   std::fill_n(view.pixels, pixelCount({view.width, view.height}), pixel);
 }
 
-void Surface::paint(const Picture& picture) const {
+void Surface::paint(const Picture& picture, std::uint32_t background) const {
+  if (picture.size() != size_) fill(background);
   const platform::PixelView view = pixels();
   const auto length = static_cast<std::size_t>(picture.size().width);
   auto width = static_cast<std::size_t>(std::min(view.width, picture.size().width));
@@ -80,7 +87,7 @@ void Surface::paint(const Picture& picture) const {
   if (view.width == picture.size().width) width *= std::exchange(height, std::min<std::size_t>(height, 1));
   for (std::size_t row = 0; row < height; ++row) {
     paintRow(picture.pixels().subspan(row * length, width),
-             view.pixels + row * static_cast<std::size_t>(view.width), picture.isOpaque());
+             view.pixels + row * static_cast<std::size_t>(view.width), picture, background);
   }
 }
 

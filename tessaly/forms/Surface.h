@@ -30,8 +30,8 @@ class Surface {
 
   void fill(std::uint32_t pixel) const;
 
-  /// Paints a picture at the top left corner, over what is there.
-  void paint(const Picture& picture) const;
+  /// Fills it and paints a picture on that at the top left corner.
+  void paint(const Picture& picture, std::uint32_t background) const;
 
   /// A picture of all that is there now.
   PictureReference picture() const;

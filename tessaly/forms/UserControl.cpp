@@ -169,14 +169,21 @@ platform::PixelView UserControl::surface() const { return surface_.pixels(); }
 PictureReference UserControl::picture() {
   const PixelSize size = container_->size();
   if (pixelCount(size) == 0) return std::make_shared<const Picture>();
-  std::vector<std::uint32_t> shown(pixelCount(size), pixelOf(shownColour(backColor_, *container_)));
-  const platform::PixelView view{shown.data(), size.width, size.height};
+  std::vector<std::uint32_t> shown(pixelCount(size));
+  drawOn({shown.data(), size.width, size.height});
+  return std::make_shared<const Picture>(size, std::move(shown));
+}
+
+void UserControl::drawOn(platform::PixelView view) const {
+  const std::span<std::uint32_t> pixels(view.pixels, pixelCount({view.width, view.height}));
+  if (surface_.size() != PixelSize{view.width, view.height}) {
+    std::ranges::fill(pixels, pixelOf(shownColour(backColor_, *container_)));
+  }
   copyPixels(surface_.pixels(), view);
   for (const Line* line : lines_) {
     if (line->Visible()) line->drawOn(view);
   }
-  for (std::uint32_t& pixel : shown) pixel |= kCovers;
-  return std::make_shared<const Picture>(size, std::move(shown));
+  for (std::uint32_t& pixel : pixels) pixel |= kCovers;
 }
 
 void UserControl::add(Line& line) { lines_.push_back(&line); }

@@ -106,6 +106,9 @@ class TESSALY_DESKTOP_API UserControl {
   /// take more than 67108864 pixels.
   PictureReference picture();
 
+  /// The same on pixels that there are already, of the container's size.
+  void drawOn(platform::PixelView view) const;
+
   /// The container goes: from now on there is nobody to tell.
   void leave();
 

@@ -10,6 +10,7 @@ class PropertyBag;
 
 /// The buttons, or the shift keys, of a mouse event: 1 left or Shift, 2 right or Control, 4 middle or Alt.
 using MouseState = std::int16_t;
+inline constexpr MouseState kLeftButton = 1;
 
 /// What a control does with the events of its surface. What it raises goes to whoever has raised the event.
 /// The order of a control's life: it is made, then InitProperties or ReadProperties, then Resize once, and

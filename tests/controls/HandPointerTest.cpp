@@ -18,7 +18,8 @@ class HandPointerTest : public testing::Test {
   std::uint32_t at(Long x, Long y) const {
     const PixelSize size = icon_.picture->size();
     const bool isInside = x >= 0 && y >= 0 && x < size.width && y < size.height;
-    return isInside ? icon_.picture->pixels()[static_cast<std::size_t>(y * size.width + x)] : kClear;
+    const auto place = std::ptrdiff_t{y} * size.width + x;
+    return isInside ? icon_.picture->pixels()[static_cast<std::size_t>(place)] : kClear;
   }
 
   LinkStage stage_;

@@ -12,16 +12,16 @@
 namespace tessaly::tests {
 namespace {
 
-using Property = std::tuple<std::string, int, int, Long, ValueType, std::string, PropertyDefault>;
+using LinkProperty = std::tuple<std::string, int, int, Long, ValueType, std::string, PropertyDefault>;
 
 TEST(LinkTables, HoldEachDocumentedPropertyOnce) {
-  const std::vector<Property> documented{
+  const std::vector<LinkProperty> documented{
       {"text", 0, 1, -517, ValueType::Text, "Text", u"Gleamline Home Page"},
       {"URL", 2, 3, 2, ValueType::Text, "URL", u"https://www.gleamline.example/"},
       {"ShowToolTip", 4, 5, 3, ValueType::TruthValue, "ShowToolTip", false},
       {"alignment", 7, 6, 4, ValueType::Integer32, "Alignment", Long{1}},
   };
-  std::vector<Property> held;
+  std::vector<LinkProperty> held;
   for (const PropertyRow& row : kURLLinkProperties) {
     held.emplace_back(shown(row.name), row.readSlot, row.assignSlot, row.dispatchNumber, row.type,
                       shown(row.bagKey), row.defaultValue);

@@ -51,6 +51,14 @@ TEST(PictureTest, WhatCoversLessThanHalfCoversNothing) {
   EXPECT_TRUE(pictured({"rgb"})->isOpaque());
 }
 
+TEST(PictureTest, KnowsWhetherItsPixelsCoverWhollyOrNotAtAll) {
+  EXPECT_TRUE(Picture({2, 1}, {0x7FFFFFFF, 0xFF000000}).isCutOut());
+  EXPECT_FALSE(Picture({2, 1}, {0xFE000000, 0xFF000000}).isCutOut());
+  EXPECT_FALSE(Picture({2, 1}, {0x80000000, 0}).isCutOut());
+  EXPECT_TRUE(Picture({1, 1}, {0xFF123456}).isCutOut());
+  EXPECT_FALSE(Picture({1, 1}, {0xFE123456}).isOpaque());
+}
+
 TEST(PictureTest, APngGivesTheSamePixels) {
   const Picture picture({3, 2}, {0xFF010203, 0x80FF00FE, 0xFE102030, 0, 0xC0FFFFFF, 0xFF000000});
   const PictureReference again = pictureFromBytes(pngOf(picture));

@@ -78,7 +78,7 @@ void MessageBox::scrollLongText() {
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setWidgetResizable(true);
   scroll->setMinimumSize(width, room.height() / 2);
-  grid->replaceWidget(label, scroll);
+  delete grid->replaceWidget(label, scroll);
   scroll->setWidget(label);
 }
 

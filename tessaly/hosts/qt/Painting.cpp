@@ -5,10 +5,13 @@
 #include <QStyleOptionFocusRect>
 #include <QWidget>
 #include <cmath>
+#include <cstdint>
 
 #include "tessaly/base/Rounding.h"
+#include "tessaly/base/RuntimeError.h"
 #include "tessaly/forms/Label.h"
 #include "tessaly/forms/UserControl.h"
+#include "tessaly/hosts/qt/Mouse.h"
 #include "tessaly/hosts/qt/Text.h"
 
 namespace tessaly::qt {
@@ -21,12 +24,12 @@ QColor seen(OLE_COLOR colour, const UserControl& control) {
 /// The surface is what it is, also where a screen has one and a half pixels for each of its own: there they
 /// are mixed, since some would be wider than others.
 void paintSurface(QPainter& painter, QSize area, UserControl& control) {
-  const PictureReference shown = control.picture();
-  const auto [width, height] = shown->size();
-  if (QSize(width, height) != area) painter.fillRect(QRect({}, area), seen(control.BackColor(), control));
-  if (shown->isEmpty()) return;
-  const QImage image(reinterpret_cast<const uchar*>(shown->pixels().data()), width, height,
-                     qsizetype{width} * 4, QImage::Format_RGB32);
+  const PixelSize size = control.container().size();
+  if (toQSize(size) != area) painter.fillRect(QRect({}, area), seen(control.BackColor(), control));
+  if (toQSize(size).isEmpty()) return;
+  QImage image(toQSize(size), QImage::Format_RGB32);
+  if (image.isNull()) throw RuntimeError(RuntimeError::OutOfMemory);
+  control.drawOn({reinterpret_cast<std::uint32_t*>(image.bits()), size.width, size.height});
   const double ratio = painter.device()->devicePixelRatio();
   painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
   painter.drawImage(0, 0, image);

@@ -10,10 +10,6 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr std::uint32_t kCoversHalf = 0x80000000;
-
-std::uint32_t withoutFaint(std::uint32_t pixel) { return pixel < kCoversHalf ? 0 : pixel; }
-
 /// The nearest pixel, since a see-through colour must stay the very one that it is.
 QImage inLogicalPixels(const QImage& image) {
   if (qFuzzyCompare(image.devicePixelRatio(), 1)) return image;
@@ -31,7 +27,7 @@ PictureReference toPicture(const QImage& image) {
   pixels.reserve(static_cast<std::size_t>(whole.width()) * static_cast<std::size_t>(whole.height()));
   for (int y = 0; y < whole.height(); ++y) {
     const auto* const row = reinterpret_cast<const QRgb*>(whole.constScanLine(y));
-    std::transform(row, row + whole.width(), std::back_inserter(pixels), withoutFaint);
+    pixels.insert(pixels.end(), row, row + whole.width());
   }
   return std::make_shared<const Picture>(PixelSize{whole.width(), whole.height()}, std::move(pixels));
 }

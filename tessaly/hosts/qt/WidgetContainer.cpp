@@ -27,7 +27,6 @@ bool isPressKey(const QKeyEvent& event) {
 WidgetContainer::WidgetContainer(QWidget* parent)
     : QWidget(parent), place_(std::make_shared<WidgetPlace>(*this)) {
   setMouseTracking(true);
-  setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 WidgetContainer::~WidgetContainer() { place_->leave(); }

@@ -18,9 +18,14 @@ std::filesystem::path program() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path() / "tests-opener";
 }
 
+std::string variableOf(const char* name) {
+  const char* const value = std::getenv(name);
+  return value != nullptr ? value : "";
+}
+
 }  // namespace
 
-SearchPath::SearchPath(const char* path) : before_(std::getenv("PATH")) {
+SearchPath::SearchPath(const char* path) : before_(variableOf("PATH")) {
   if (path != nullptr) {
     setenv("PATH", path, 1);
   } else {
@@ -46,7 +51,7 @@ OpenerOfTests::~OpenerOfTests() {
   close(told_);
 }
 
-std::string OpenerOfTests::readField() {
+std::string OpenerOfTests::readField() const {
   std::string field;
   for (char c = 0; read(told_, &c, 1) == 1 && c != '\0';) field += c;
   return field;

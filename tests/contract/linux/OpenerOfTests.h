@@ -51,7 +51,7 @@ class OpenerOfTests final : public RecordingOpener {
   const std::filesystem::path& folder() const { return folder_.path(); }
 
  private:
-  std::string readField();
+  std::string readField() const;
 
   TemporaryFolder folder_;
   int told_ = -1;

@@ -64,7 +64,9 @@ int main(int count, char** words) {
   (fields += status("SigBlk:")) += '\0';
   (fields += status("SigIgn:")) += '\0';
   (fields += getsid(0) == getpid() ? "leads" : "follows") += '\0';
-  const std::string path = std::getenv("TESSALY_TESTS_OPENER");
+  const char* const told = std::getenv("TESSALY_TESTS_OPENER");
+  if (told == nullptr) return 1;
+  const std::string path = told;
   tell(path, fields);
   const std::string_view text = count > 1 ? words[1] : "";
   if (text.starts_with("tessaly-held:")) {

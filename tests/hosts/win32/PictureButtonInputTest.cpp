@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "tessaly/hosts/win32/Controls.h"
+#include "tessaly/platform/Desktop.h"
+#include "tessaly/platform/fake/Drawing.h"
 #include "tests/hosts/win32/FormWindow.h"
 
 namespace tessaly::tests {
@@ -155,6 +157,25 @@ TEST_F(PictureButtonInputTest, MouseEventsTellButtonsAndShiftKeys) {
   keyUp(VK_CONTROL);
   EXPECT_EQ(told, (std::vector<std::string>{"down 2 1 24,24", "down 4 0 24,24", "move 6 0 -3,50",
                                             "up 4 0 -3,50", "up 2 2 -3,50"}));
+}
+
+TEST_F(PictureButtonInputTest, MovesOnAHoveringButtonComposeAndPaintNothing) {
+  move(kInside);
+  platform::fake::Drawing drawing;
+  const platform::Override override(drawing);
+  int moves = 0;
+  button_.events.MouseMove = [&](auto&...) {
+    if (GetUpdateRect(form_.button(), nullptr, FALSE) == FALSE) ++moves;
+  };
+  for (Long step = 1; step <= 20; ++step) move({kInside.x - step, kInside.y + step % 7});
+  EXPECT_EQ(moves, 20);
+  EXPECT_FALSE(GetUpdateRect(form_.button(), nullptr, FALSE));
+  press();
+  release();
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_TRUE(drawing.calls().empty());
+  button_.backcolor(0x102030);
+  EXPECT_FALSE(drawing.calls().empty());
 }
 
 TEST_F(PictureButtonInputTest, AHandlerMaySetEnabledFalse) {
