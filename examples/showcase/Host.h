@@ -67,7 +67,6 @@ enum Text : tessaly::Long {
   TimeHeading = 87,
   NumberHeading = 88,
   TextToFind = 89,
-  EmptyCell = 92,
   RowsOf = 93,
   RowsSelectedOf = 94,
   RowAndColumn = 95,

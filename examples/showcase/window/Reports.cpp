@@ -27,14 +27,6 @@ Grid::Heading heading(const tessaly::CResources& resources, Text slot) {
   return {resources.res(slot), slot == AmountHeading};
 }
 
-std::vector<String> cellsOf(const ReportRow& row, const tessaly::CResources& resources) {
-  std::vector<String> cells(row.cells.begin(), row.cells.end());
-  for (String& cell : cells) {
-    if (cell.empty()) cell = resources.res(EmptyCell);
-  }
-  return cells;
-}
-
 }  // namespace
 
 Reports::Reports(Window& window, tessaly::CResources& resources, Preferences preferences, String folder,
@@ -167,7 +159,9 @@ void Reports::showRows() {
   for (const Text slot : {DateHeading, OwnerHeading, TypeHeading, AmountHeading, CommentHeading}) {
     grid.headings.push_back(heading(resources_, slot));
   }
-  for (const ReportRow& row : report_.pageRows()) grid.rows.push_back(cellsOf(row, resources_));
+  for (const ReportRow& row : report_.pageRows()) {
+    grid.rows.emplace_back(row.cells.begin(), row.cells.end());
+  }
   grid.selected = report_.selectedOnPage();
   grid.isDescending = report_.isDescending();
   if (const auto column = report_.sortedColumn()) grid.sortedColumn = static_cast<Long>(*column);

@@ -14,6 +14,7 @@
 #include "examples/showcase/window/qt/Menus.h"
 #include "examples/showcase/window/qt/Parts.h"
 #include "examples/showcase/window/qt/QtDialog.h"
+#include "tessaly/hosts/qt/Dialogs.h"
 #include "tessaly/hosts/qt/PictureButton.h"
 #include "tessaly/hosts/qt/Pictures.h"
 #include "tessaly/hosts/qt/Text.h"
@@ -111,7 +112,12 @@ void QtWindow::setGrid(const Grid& grid) {
   grid_->header()->setSortIndicatorShown(grid.sortedColumn >= 0);
   grid_->header()->setSortIndicator(grid.sortedColumn,
                                     grid.isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
-  for (int column = 0; isNew && column < headings.size(); ++column) grid_->setColumnWidth(column, kColumnWidth);
+  for (int column = 0; column < headings.size(); ++column) {
+    if (grid.headings[static_cast<std::size_t>(column)].isOfNumbers) {
+      grid_->headerItem()->setTextAlignment(column, Qt::AlignTrailing | Qt::AlignVCenter);
+    }
+    if (isNew) grid_->setColumnWidth(column, kColumnWidth);
+  }
 }
 
 void QtWindow::setGridRows(const Grid& grid) {
@@ -240,6 +246,7 @@ struct Running {
   }
 
   QApplication application;
+  tessaly::qt::Dialogs dialogs;
   std::unique_ptr<QtWindow> window;
 };
 

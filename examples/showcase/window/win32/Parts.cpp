@@ -3,23 +3,14 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <memory>
 
 #include "tessaly/hosts/win32/Handles.h"
 
 namespace showcase {
 namespace {
 
-constexpr int kColumns = 4;
-constexpr std::array<int, 3> kColumnWidths = {84, 190, 180};
-constexpr int kRowHeight = 22;
 constexpr int kStatusPart = 170;
 constexpr int kPointsPerInch = 72;
-
-HWND makeChild(HWND parent, const wchar_t* className, DWORD style) {
-  return CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent, nullptr,
-                         GetModuleHandleW(nullptr), nullptr);
-}
 
 NONCLIENTMETRICSW metrics() {
   NONCLIENTMETRICSW result{};
@@ -45,6 +36,13 @@ HFONT messageFont() {
   return CreateFontIndirectW(&all.lfMessageFont);
 }
 
+HFONT headingFont() {
+  LOGFONTW font = metrics().lfMessageFont;
+  font.lfHeight = font.lfHeight * 3 / 2;
+  font.lfWeight = FW_BOLD;
+  return CreateFontIndirectW(&font);
+}
+
 HFONT fontOf(const std::wstring& name, int points) {
   LOGFONTW font = metrics().lfMessageFont;
   if (points > 0) font.lfHeight = -MulDiv(points, pixelsPerInch(), kPointsPerInch);
@@ -55,14 +53,9 @@ HFONT fontOf(const std::wstring& name, int points) {
   return CreateFontIndirectW(&font);
 }
 
-HWND makeList(HWND parent) {
-  const HWND list =
-      makeChild(parent, WC_LISTVIEWW, WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_NOSORTHEADER);
-  SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-  // A row is as high as its picture, here an empty one; the list lets go of it.
-  SendMessageW(list, LVM_SETIMAGELIST, LVSIL_SMALL,
-               reinterpret_cast<LPARAM>(ImageList_Create(1, kRowHeight, ILC_COLOR, 0, 1)));
-  return list;
+HWND makeChild(HWND parent, const wchar_t* className, DWORD style) {
+  return CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent, nullptr,
+                         GetModuleHandleW(nullptr), nullptr);
 }
 
 HWND makeStatus(HWND parent) { return makeChild(parent, STATUSCLASSNAMEW, 0); }
@@ -72,36 +65,9 @@ HWND makeToolTips(HWND parent) {
                          0, 0, 0, parent, nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
-void setColumn(HWND list, int column, std::wstring heading) {
-  LVCOLUMNW description{};
-  description.mask = LVCF_TEXT;
-  description.pszText = heading.data();
-  if (SendMessageW(list, LVM_SETCOLUMNW, static_cast<WPARAM>(column),
-                   reinterpret_cast<LPARAM>(&description)) != FALSE) {
-    return;
-  }
-  description.mask = LVCF_TEXT | LVCF_WIDTH;
-  const auto place = static_cast<std::size_t>(column);
-  description.cx = place < kColumnWidths.size() ? kColumnWidths[place] : 0;
-  SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&description));
+void setFont(HWND window, HFONT font) {
+  SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
-
-int addRow(HWND list, bool isMinor) {
-  LVITEMW item{};
-  item.mask = LVIF_PARAM;
-  item.iItem = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));
-  item.lParam = isMinor ? 1 : 0;
-  return static_cast<int>(SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item)));
-}
-
-void setCell(HWND list, int row, int column, std::wstring text) {
-  LVITEMW item{};
-  item.iSubItem = column;
-  item.pszText = text.data();
-  SendMessageW(list, LVM_SETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-}
-
-void fitColumns(HWND list) { SendMessageW(list, LVM_SETCOLUMNWIDTH, kColumns - 1, LVSCW_AUTOSIZE_USEHEADER); }
 
 void fitStatus(HWND status, int width) {
   const std::array<int, 3> ends = {width - 2 * kStatusPart, width - kStatusPart, -1};

@@ -22,24 +22,19 @@ inline constexpr COLORREF kFaint = RGB(0x8A, 0x93, 0x9E);
 /// Fills an area with a colour.
 void fill(HDC context, const RECT& area, COLORREF colour);
 
-/// The font in which Windows writes its messages, or another one of a size in points; 0 for the usual one.
+/// The font in which Windows writes its messages, a larger one, and another one of a size in points; 0 for the
+/// usual one.
 HFONT messageFont();
+HFONT headingFont();
 HFONT fontOf(const std::wstring& name, int points);
 
-/// Children of the window: a list of four columns, its line at the bottom, and its tool tips.
-HWND makeList(HWND parent);
+/// A child of a window of some class, without a place; and two of them: its line at the bottom, and its tool
+/// tips.
+HWND makeChild(HWND parent, const wchar_t* className, DWORD style);
 HWND makeStatus(HWND parent);
 HWND makeToolTips(HWND parent);
 
-/// Sets a column's heading, which makes it where it is missing.
-void setColumn(HWND list, int column, std::wstring heading);
-
-/// A new row at the list's end, with whether it steps back; its number.
-int addRow(HWND list, bool isMinor);
-void setCell(HWND list, int row, int column, std::wstring text);
-
-/// Gives the last column what room the others leave.
-void fitColumns(HWND list);
+void setFont(HWND window, HFONT font);
 
 /// Parts the line at the bottom, the first taking what room the others leave.
 void fitStatus(HWND status, int width);

@@ -3,8 +3,12 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "examples/showcase/window/OpenWindow.h"
+#include "examples/showcase/window/win32/DialogWindow.h"
+#include "examples/showcase/window/win32/Lists.h"
+#include "examples/showcase/window/win32/Menus.h"
 #include "examples/showcase/window/win32/Parts.h"
 #include "examples/showcase/window/win32/Picture.h"
 #include "tessaly/base/RuntimeError.h"
@@ -13,26 +17,25 @@
 
 namespace showcase {
 
+using tessaly::Long;
 using tessaly::RuntimeError;
 using tessaly::toWide;
 
 namespace {
 
 constexpr wchar_t kWindowClass[] = L"Tessaly.Reports";
-constexpr int kWidth = 780;
-constexpr int kHeight = 520;
+constexpr int kWidth = 820;
+constexpr int kHeight = 640;
+constexpr int kEventsHeight = 140;
+constexpr int kColumnWidth = 140;
+constexpr std::array<int, 4> kEventWidths = {84, 190, 180, 0};
 
 constexpr LPARAM pointAt(int x, int y) { return y << 16 | x; }
 
-void setFont(HWND window, HFONT font) {
-  SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-}
-
-/// Lays a child out from the right, or from the left again.
-void mirror(HWND child, bool isFromRight) {
-  const LONG_PTR style = GetWindowLongPtrW(child, GWL_EXSTYLE);
-  SetWindowLongPtrW(child, GWL_EXSTYLE, isFromRight ? style | WS_EX_LAYOUTRTL : style & ~WS_EX_LAYOUTRTL);
-  InvalidateRect(child, nullptr, TRUE);
+std::int16_t heldKeys() {
+  const auto held = [](int key) { return (GetKeyState(key) & 0x8000) != 0; };
+  return static_cast<std::int16_t>((held(VK_SHIFT) ? 1 : 0) | (held(VK_CONTROL) ? 2 : 0) |
+                                   (held(VK_MENU) ? 4 : 0));
 }
 
 }  // namespace
@@ -50,14 +53,15 @@ Win32Window::Win32Window(int show) : font_(messageFont()), nextDistance_(kMargin
   description.lpszClassName = kWindowClass;
   RegisterClassExW(&description);
   RECT outer{0, 0, kWidth, kHeight};
-  AdjustWindowRectEx(&outer, WS_OVERLAPPEDWINDOW, FALSE, 0);
+  AdjustWindowRectEx(&outer, WS_OVERLAPPEDWINDOW, TRUE, 0);
   CreateWindowExW(0, kWindowClass, L"", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
                   outer.right - outer.left, outer.bottom - outer.top, nullptr, nullptr, program, this);
   if (window_ == nullptr) throw RuntimeError(RuntimeError::OutOfMemory);
   toolTips_ = makeToolTips(window_);
-  list_ = makeList(window_);
+  grid_ = makeList(window_);
+  events_ = makeList(window_);
   status_ = makeStatus(window_);
-  setFont(status_, font_.get());
+  for (const HWND child : {events_, status_}) setFont(child, font_.get());
   layOut();
   // Some children draw nothing in a window that is hidden, also where it is a picture that they draw.
   ShowWindow(window_, show);
@@ -75,11 +79,11 @@ LRESULT CALLBACK Win32Window::procedure(HWND window, UINT message, WPARAM wParam
     created->window_ = window;
   }
   auto* const self = reinterpret_cast<Win32Window*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  const auto answer = self == nullptr ? std::nullopt : self->handle(message, wParam, lParam);
+  const auto answer = self == nullptr ? std::nullopt : self->answer(message, wParam, lParam);
   return answer ? *answer : DefWindowProcW(window, message, wParam, lParam);
 }
 
-std::optional<LRESULT> Win32Window::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+std::optional<LRESULT> Win32Window::answer(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
       layOut();
@@ -88,25 +92,31 @@ std::optional<LRESULT> Win32Window::handle(UINT message, WPARAM wParam, LPARAM l
       paintToolBar(reinterpret_cast<HDC>(wParam));
       return 1;
     case WM_NOTIFY:
-      return colourRow(lParam);
+      return take(*reinterpret_cast<const NMHDR*>(lParam));
+    case WM_COMMAND:
+      if (lParam != 0 || !handlers.onCommand) return std::nullopt;
+      handlers.onCommand(LOWORD(wParam));
+      return 0;
+    case WM_CLOSE:
+      closeNow();
+      return 0;
     case WM_DESTROY:
       window_ = nullptr;
-      PostQuitMessage(0);
+      isClosed_ = true;
       return 0;
     default:
       return std::nullopt;
   }
 }
 
-LRESULT Win32Window::colourRow(LPARAM notification) const {
-  const auto& head = *reinterpret_cast<const NMHDR*>(notification);
-  if (head.hwndFrom != list_ || head.code != NM_CUSTOMDRAW) return CDRF_DODEFAULT;
-  auto& drawing = *reinterpret_cast<NMLVCUSTOMDRAW*>(notification);
-  if (drawing.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
-  if (drawing.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) {
-    drawing.clrText = drawing.nmcd.lItemlParam != 0 ? kFaint : kInk;
+std::optional<LRESULT> Win32Window::take(const NMHDR& notification) {
+  const bool isList = notification.hwndFrom == grid_ || notification.hwndFrom == events_;
+  if (isList && notification.code == NM_CUSTOMDRAW) return colourOf(reinterpret_cast<LPARAM>(&notification));
+  if (notification.hwndFrom == grid_ && notification.code == LVN_COLUMNCLICK && handlers.onHeading) {
+    handlers.onHeading(reinterpret_cast<const NMLISTVIEW&>(notification).iSubItem);
+    return 0;
   }
-  return CDRF_DODEFAULT;
+  return std::nullopt;
 }
 
 void Win32Window::paintToolBar(HDC context) const {
@@ -136,10 +146,17 @@ void Win32Window::layOut() {
   GetClientRect(window_, &inside);
   RECT below{};
   GetWindowRect(status_, &below);
-  MoveWindow(list_, 0, kToolBarHeight, inside.right,
-             static_cast<int>(inside.bottom - kToolBarHeight - (below.bottom - below.top)), TRUE);
-  fitColumns(list_);
+  const int end = static_cast<int>(inside.bottom - (below.bottom - below.top));
+  const int middle = std::max(kToolBarHeight, end - kEventsHeight);
+  MoveWindow(grid_, 0, kToolBarHeight, inside.right, middle - kToolBarHeight, TRUE);
+  MoveWindow(events_, 0, middle, inside.right, end - middle, TRUE);
+  fitColumns(grid_);
+  fitColumns(events_);
   InvalidateRect(window_, nullptr, TRUE);
+}
+
+tessaly::platform::WindowHandle Win32Window::handle() {
+  return reinterpret_cast<tessaly::platform::WindowHandle>(window_);
 }
 
 void Win32Window::setTitle(std::u16string_view title) { SetWindowTextW(window_, toWide(title).c_str()); }
@@ -147,8 +164,8 @@ void Win32Window::setTitle(std::u16string_view title) { SetWindowTextW(window_, 
 // The buttons' own surfaces stay as they are, so the window mirrors their places itself.
 void Win32Window::setRightToLeft(bool isRightToLeft) {
   isFromRight_ = isRightToLeft;
-  for (const HWND child : {list_, status_}) mirror(child, isRightToLeft);
-  mirror(reinterpret_cast<HWND>(SendMessageW(list_, LVM_GETHEADER, 0, 0)), isRightToLeft);
+  for (const HWND list : {grid_, events_}) mirrorList(list, isRightToLeft);
+  mirror(status_, isRightToLeft);
   layOut();
 }
 
@@ -183,24 +200,48 @@ void Win32Window::nameButton(const tessaly::transparentBitmap& button, std::u16s
   setToolTip(toolTips_, windowOf(button), text);
 }
 
-void Win32Window::setColumns(const std::array<tessaly::String, 4>& headings) {
-  for (std::size_t i = 0; i < headings.size(); ++i)
-    setColumn(list_, static_cast<int>(i), toWide(headings[i]));
-  fitColumns(list_);
+void Win32Window::setMenu(const std::vector<MenuItem>& menus) { setMenus(window_, menus, isFromRight_); }
+
+void Win32Window::setGrid(const Grid& grid) {
+  std::vector<ListHeading> headings;
+  for (const auto& heading : grid.headings) {
+    const bool isSorted = static_cast<Long>(headings.size()) == grid.sortedColumn;
+    const int direction = grid.isDescending ? -1 : 1;
+    headings.push_back({toWide(heading.text), kColumnWidth, heading.isOfNumbers, isSorted ? direction : 0});
+  }
+  SendMessageW(grid_, WM_SETREDRAW, FALSE, 0);
+  setHeadings(grid_, headings);
+  removeRows(grid_);
+  for (const auto& row : grid.rows) addRow(grid_, row, false);
+  if (grid.selected >= 0) selectRow(grid_, grid.selected);
+  SendMessageW(grid_, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(grid_, nullptr, TRUE);
 }
 
-void Win32Window::setListFont(std::u16string_view name, tessaly::Long points) {
+Long Win32Window::selectedRow() { return showcase::selectedRow(grid_); }
+
+void Win32Window::setGridFont(std::u16string_view name, Long points) {
   tessaly::win32::OwnedFont font(fontOf(toWide(name), points));
-  setFont(list_, font.get());
-  listFont_ = std::move(font);
+  setFont(grid_, font.get());
+  gridFont_ = std::move(font);
+}
+
+void Win32Window::setEventHeadings(const std::array<tessaly::String, 4>& headings) {
+  std::vector<ListHeading> all;
+  for (std::size_t i = 0; i < headings.size(); ++i) {
+    all.push_back({.text = toWide(headings[i]), .width = kEventWidths[i]});
+  }
+  setHeadings(events_, all);
+}
+
+void Win32Window::setEvents(const std::vector<Event>& events) {
+  removeRows(events_);
+  for (const Event& event : events) addEvent(event);
 }
 
 void Win32Window::addEvent(const Event& event) {
-  const int row = addRow(list_, event.isMinor);
-  for (std::size_t i = 0; i < event.cells.size(); ++i) {
-    setCell(list_, row, static_cast<int>(i), toWide(event.cells[i]));
-  }
-  SendMessageW(list_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  addRow(events_, {event.cells.begin(), event.cells.end()}, event.isMinor);
+  scrollToEnd(events_);
 }
 
 void Win32Window::setStatus(const std::array<tessaly::String, 3>& parts) {
@@ -209,6 +250,26 @@ void Win32Window::setStatus(const std::array<tessaly::String, 3>& parts) {
     SendMessageW(status_, SB_SETTEXTW, i | direction, reinterpret_cast<LPARAM>(toWide(parts[i]).c_str()));
   }
 }
+
+Long Win32Window::runDialog(Dialog& dialog) {
+  return DialogWindow(dialog, std::exchange(visit_, nullptr)).run(window_, isFromRight_);
+}
+
+// Later, since what asks for it may still be at work on the window.
+void Win32Window::close() { PostMessageW(window_, WM_CLOSE, 0, 0); }
+
+// The buttons last as long as this does.
+void Win32Window::closeNow() {
+  if (handlers.onClose && !handlers.onClose()) return;
+  ShowWindow(window_, SW_HIDE);
+  isClosed_ = true;
+}
+
+void Win32Window::choose(Long id) {
+  if (hasEnabledItem(window_, id)) SendMessageW(window_, WM_COMMAND, static_cast<WPARAM>(id), 0);
+}
+
+void Win32Window::clickHeading(Long column) { handlers.onHeading(column); }
 
 void Win32Window::point(const tessaly::transparentBitmap& button) {
   SendMessageW(windowOf(button), WM_MOUSEMOVE, 0, pointAt(kButtonSide / 2, kButtonSide / 2));
@@ -230,23 +291,33 @@ void Win32Window::release(const tessaly::transparentBitmap& button) {
 void Win32Window::handleNext() {
   MSG message;
   if (GetMessageW(&message, nullptr, 0, 0) <= 0) return;
+  if (takeKey(message)) return;
   if (window_ != nullptr && IsDialogMessageW(window_, &message) != FALSE) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
 }
 
+bool Win32Window::takeKey(const MSG& message) const {
+  const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+  const bool isOurs = window_ != nullptr && GetAncestor(message.hwnd, GA_ROOT) == window_;
+  return isKey && isOurs && handlers.onKey &&
+         handlers.onKey(static_cast<std::int16_t>(message.wParam), heldKeys());
+}
+
 tessaly::PictureReference Win32Window::picture() { return pictureOf(window_); }
 
 void Win32Window::run() {
-  ShowWindow(window_, SW_SHOW);
-  while (window_ != nullptr) handleNext();
+  if (IsWindowVisible(window_) == FALSE) ShowWindow(window_, SW_SHOW);
+  while (!isClosed_) handleNext();
 }
 
-std::unique_ptr<Window> openWindow(int& /*argc*/, char** /*argv*/, bool isToBeSeen) {
+std::shared_ptr<Window> openWindow(int& /*argc*/, char** /*argv*/, bool isToBeSeen) {
   // A console that was opened for this program alone would stand beside the window.
   DWORD process = 0;
   if (isToBeSeen && GetConsoleProcessList(&process, 1) == 1) FreeConsole();
-  return std::make_unique<Win32Window>(isToBeSeen ? SW_HIDE : SW_SHOWNOACTIVATE);
+  return std::make_shared<Win32Window>(isToBeSeen ? SW_HIDE : SW_SHOWNOACTIVATE);
 }
+
+bool drawsHelp() { return false; }
 
 }  // namespace showcase
