@@ -31,14 +31,23 @@ void tell(const std::string& line) { std::puts(line.c_str()); }
 
 QRect rectangle(ScreenPoint corner, ScreenPoint size) { return {corner.x, corner.y, size.x, size.y}; }
 
+class Dialog final : public QDialog {
+ public:
+  using QDialog::QDialog;
+
+ protected:
+  void showEvent(QShowEvent* event) override {
+    QDialog::showEvent(event);
+    tell("dialog open");
+  }
+};
+
 void showDialog(QWidget* parent) {
-  QDialog dialog(parent);
+  Dialog dialog(parent);
   dialog.setGeometry(rectangle(kDialogCorner, kDialogSize));
   QPushButton close(&dialog);
   close.resize(dialog.size());
   QObject::connect(&close, &QPushButton::pressed, &dialog, &QDialog::accept);
-  QMetaObject::invokeMethod(
-      &dialog, [] { tell("dialog open"); }, Qt::QueuedConnection);
   dialog.exec();
   tell("dialog closed");
 }

@@ -64,14 +64,11 @@ Watcher::Watcher(qt::PictureButton& button) : button_(&button) {
 // What an event makes of the button is seen when it is over, and what is painted when Qt has brought it to
 // the screen.
 bool Watcher::eventFilter(QObject*, QEvent*) {
-  if (!std::exchange(isLookWaiting_, true)) {
-    QMetaObject::invokeMethod(
-        this, [this] { look(); }, Qt::QueuedConnection);
-  }
+  if (!std::exchange(isLookWaiting_, true)) QCoreApplication::postEvent(this, new QEvent(QEvent::User));
   return false;
 }
 
-void Watcher::look() {
+void Watcher::customEvent(QEvent*) {
   isLookWaiting_ = false;
   if (!button_) return;
   tellChange(lastTimers_, timersOf(*button_));

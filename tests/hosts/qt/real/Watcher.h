@@ -19,6 +19,7 @@ class Watcher final : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void customEvent(QEvent* event) override;
 
  private:
   struct Look {
@@ -26,7 +27,6 @@ class Watcher final : public QObject {
     QImage image;
   };
 
-  void look();
   std::string shown() const;
 
   QPointer<qt::PictureButton> button_;
