@@ -68,14 +68,15 @@ void URLLink::Resize() {
   label.Height(children_->userControl->Height());
 }
 
-// A host that does not want the click keeps the pointer that it has set; any other press loses it.
+// A host that does not want the click keeps the pointer that it has set; any other press loses it. The form
+// may go while the shell works or the message is shown, but not its screen.
 void URLLink::lblURLMouseDown(MouseState button, MouseState /*shift*/, float /*x*/, float /*y*/) {
-  if ((button & kLeftButton) != 0) {
-    String address = url_;
-    if (!isWanted(address)) return;
-    open(address);
-  }
-  children_->userControl->container().screen().MousePointer(kUsualPointer);
+  const bool isClick = (button & kLeftButton) != 0;
+  String address = url_;
+  if (isClick && !isWanted(address)) return;
+  Screen& screen = children_->userControl->container().screen();
+  if (isClick) open(address, screen);
+  screen.MousePointer(kUsualPointer);
 }
 
 bool URLLink::isWanted(String& address) const {
@@ -85,9 +86,9 @@ bool URLLink::isWanted(String& address) const {
   return !cancel;
 }
 
-void URLLink::open(const String& address) {
+void URLLink::open(const String& address, Screen& screen) {
   try {
-    children_->userControl->container().screen().MousePointer(kHourglass);
+    screen.MousePointer(kHourglass);
     platform::desktop().shell->ShellExecuteA(children_->userControl->hWnd(), "open",
                                              platform::toAnsi(address).c_str(), nullptr, nullptr,
                                              platform::kShowNormal);

@@ -10,6 +10,7 @@
 namespace tessaly {
 
 class PropertyBag;
+class Screen;
 struct Container;
 struct URLLinkChildren;
 
@@ -60,7 +61,7 @@ class TESSALY_DESKTOP_API URLLink {
  private:
   void readKept(const PropertyBag& bag);
   bool isWanted(String& address) const;
-  void open(const String& address);
+  void open(const String& address, Screen& screen);
 
   String url_;
   Long alignment_ = 0;

@@ -80,8 +80,8 @@ struct TESSALY_DESKTOP_API Container {
   /// The system's colour of a number, such as 15 for the face of a button.
   virtual OLE_COLOR systemColour(Long number) = 0;
 
-  /// Also for a control that has left its form, as long as the screen is there: it may have changed the
-  /// pointer.
+  /// It stays for as long as an event of the control runs, whatever becomes of the form: what has changed the
+  /// pointer there puts it right again.
   virtual Screen& screen() = 0;
 
   /// What makes the engine's objects for the control; the engine's own where nothing else is told.

@@ -30,10 +30,11 @@ Field webSite(const Desk& desk) {
 void showAbout(const Desk& desk) {
   const auto& resources = desk.resources();
   Dialog dialog{.title = resources.res(AboutTitle)};
-  dialog.fields = {{.kind = Field::Kind::Heading, .text = String(kProgram)},
-                   {.kind = Field::Kind::Words, .text = resources.resWithArg(VersionOf, SHOWCASE_VERSION, u"")},
-                   {.kind = Field::Kind::Words, .text = resources.res(WhatTheProgramDoes)},
-                   webSite(desk)};
+  dialog.fields = {
+      {.kind = Field::Kind::Heading, .text = String(kProgram)},
+      {.kind = Field::Kind::Words, .text = resources.resWithArg(VersionOf, SHOWCASE_VERSION, u"")},
+      {.kind = Field::Kind::Words, .text = resources.res(WhatTheProgramDoes)},
+      webSite(desk)};
   dialog.buttons = {{Dialog::kCancel, resources.res(OK)}};
   desk.run(dialog, u"about", [](tessaly::Long) { return true; });
 }

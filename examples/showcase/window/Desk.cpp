@@ -31,8 +31,7 @@ void Desk::showHelp(WindowHandle owner, std::u16string_view page) const {
   tessaly::CHelp().ShowTopic(owner, page, u"", false, true);
 }
 
-bool Desk::helpKey(std::int16_t key, std::int16_t shift, WindowHandle owner,
-                   std::u16string_view page) const {
+bool Desk::helpKey(std::int16_t key, std::int16_t shift, WindowHandle owner, std::u16string_view page) const {
   if (!tessaly::CHelp().HelpKey(key, shift)) return false;
   showHelp(owner, page);
   return true;

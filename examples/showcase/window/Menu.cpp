@@ -96,16 +96,14 @@ class Builder {
 std::vector<MenuItem> menusFor(const Report& report, CResources& resources, bool showsStringNumbers) {
   using enum Command;
   const Builder builder(report, resources);
-  return {builder.menu(FileMenu, {{New, Open, Save, SaveAs}, {Print, Mail}, {DeleteReport}, {Exit}}),
-          builder.menu(EditMenu, {{Find, FindNext, GoToRow}}),
-          builder.menu(ViewMenu, {{ZoomIn, ZoomOut, ActualSize},
-                                  {FirstPage, PreviousPage, NextPage,
-                                   LastPage},
-                                  {Refresh}}),
-          builder.menu(ReportMenu, {{SortAscending, SortDescending},
-                                    {Filter, RemoveFilter}}),
-          builder.tools(showsStringNumbers),
-          builder.menu(HelpMenu, {{HelpContents, HelpIndex}, {About}})};
+  return {
+      builder.menu(FileMenu, {{New, Open, Save, SaveAs}, {Print, Mail}, {DeleteReport}, {Exit}}),
+      builder.menu(EditMenu, {{Find, FindNext, GoToRow}}),
+      builder.menu(ViewMenu,
+                   {{ZoomIn, ZoomOut, ActualSize}, {FirstPage, PreviousPage, NextPage, LastPage}, {Refresh}}),
+      builder.menu(ReportMenu, {{SortAscending, SortDescending}, {Filter, RemoveFilter}}),
+      builder.tools(showsStringNumbers),
+      builder.menu(HelpMenu, {{HelpContents, HelpIndex}, {About}})};
 }
 
 }  // namespace showcase

@@ -19,9 +19,8 @@ constexpr Long kMostZoom = 200;
 
 /// The first cell with a text, which is folded already.
 std::optional<Long> columnWith(const ReportRow& row, std::u16string_view text) {
-  const auto cell = std::find_if(row.cells.begin(), row.cells.end(), [&](const String& each) {
-    return folded(each).find(text) != String::npos;
-  });
+  const auto cell = std::find_if(row.cells.begin(), row.cells.end(),
+                                 [&](const String& each) { return folded(each).find(text) != String::npos; });
   if (cell == row.cells.end()) return std::nullopt;
   return static_cast<Long>(cell - row.cells.begin());
 }

@@ -48,8 +48,9 @@ bool isAddress(const String& text) {
 
 std::optional<String> chooseReport(const Desk& desk, const std::vector<String>& names) {
   const auto& resources = desk.resources();
-  Dialog dialog{.title = resources.res(OpenReport),
-                .fields = {{.kind = Field::Kind::List, .label = resources.res(ReportFiles), .choices = names}}};
+  Dialog dialog{
+      .title = resources.res(OpenReport),
+      .fields = {{.kind = Field::Kind::List, .label = resources.res(ReportFiles), .choices = names}}};
   dialog.buttons = {{Dialog::kOk, resources.res(Open)}};
   const Long& chosen = dialog.fields[0].number;
   const auto accepts = [&](Long) { return chosen >= 0 && chosen < static_cast<Long>(names.size()); };
@@ -80,10 +81,11 @@ std::optional<Long> askForRow(const Desk& desk, Long rows) {
 
 std::optional<PrintOrder> askHowToPrint(const Desk& desk) {
   const auto& resources = desk.resources();
-  Dialog dialog{.title = nameOf(resources.res(PrintFile)),
-                .fields = {textField(resources, NumberOfCopies, u"1"),
-                           {.kind = Field::Kind::Choice,
-                            .choices = {nameOf(resources.res(AllPages)), nameOf(resources.res(CurrentPage))}}}};
+  Dialog dialog{
+      .title = nameOf(resources.res(PrintFile)),
+      .fields = {textField(resources, NumberOfCopies, u"1"),
+                 {.kind = Field::Kind::Choice,
+                  .choices = {nameOf(resources.res(AllPages)), nameOf(resources.res(CurrentPage))}}}};
   dialog.buttons = {{Dialog::kOk, resources.res(OK)}};
   const auto& fields = dialog.fields;
   const auto accepts = [&](Long) { return isNumber(desk, fields[0].text, 1, kMostCopies); };

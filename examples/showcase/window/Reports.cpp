@@ -1,5 +1,6 @@
 #include "examples/showcase/window/Reports.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "examples/showcase/Tracing.h"
@@ -79,8 +80,11 @@ void Reports::listenTo(Tool tool) {
 
 void Reports::openFirst() {
   const auto names = shelf_.names();
-  if (shelf_.has(preferences_.report) && open(preferences_.report)) return;
-  if (names.empty() || !open(shelf_.has(kFirstReport) ? String(kFirstReport) : names[0])) report_.beginNew();
+  const auto isThere = [&](std::u16string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+  };
+  if (isThere(preferences_.report) && open(preferences_.report)) return;
+  if (names.empty() || !open(isThere(kFirstReport) ? String(kFirstReport) : names[0])) report_.beginNew();
 }
 
 void Reports::perform(Command command, std::u16string_view event) try {
@@ -122,7 +126,9 @@ bool Reports::close() {
   return true;
 }
 
-String Reports::nameShown() const { return report_.name().empty() ? resources_.res(Untitled) : report_.name(); }
+String Reports::nameShown() const {
+  return report_.name().empty() ? resources_.res(Untitled) : report_.name();
+}
 
 Saying Reports::rowsShown() const {
   if (report_.isFiltered()) return {RowsSelectedOf, report_.seenCount(), report_.rowCount()};

@@ -260,5 +260,4 @@ Saying Reports::changeSettings() {
   return Done;
 }
 
-
 }  // namespace showcase

@@ -38,7 +38,12 @@ class KeptPreferences {
 class Walk {
  public:
   Walk(Window& window, Reports& reports, tessaly::CResources& resources, const Unseen& unseen, const Say& say)
-      : window_(window), reports_(reports), resources_(resources), unseen_(unseen), say_(say), kept_(resources) {}
+      : window_(window),
+        reports_(reports),
+        resources_(resources),
+        unseen_(unseen),
+        say_(say),
+        kept_(resources) {}
 
   RoadPictures go() {
     useToolBar();
@@ -69,8 +74,8 @@ class Walk {
     say_(u"tool bar", lastBox());
     writeInNext(u"bonus");
     window_.press(reports_.button(Tool::Filter));
-    say_(u"filter", resources_.resWithArg(RowsSelectedOf, reports_.report().seenCount(),
-                                          reports_.report().rowCount()));
+    say_(u"filter",
+         resources_.resWithArg(RowsSelectedOf, reports_.report().seenCount(), reports_.report().rowCount()));
     choose(Command::RemoveFilter);
     holdUntilPage(1 + kTurnedPages);
     say_(u"held button", resources_.resWithArg(PageOf, reports_.report().page(), reports_.report().pages()));
@@ -103,7 +108,8 @@ class Walk {
     const auto numbers = languages(resources_);
     const auto place = [&](Long number) {
       Long result = 0;
-      while (result + 1 < static_cast<Long>(numbers.size()) && numbers[static_cast<std::size_t>(result)] != number) {
+      while (result + 1 < static_cast<Long>(numbers.size()) &&
+             numbers[static_cast<std::size_t>(result)] != number) {
         ++result;
       }
       return result;

@@ -22,9 +22,10 @@ constexpr tessaly::OLE_COLOR kOnColour = 0xF6DFC8;
 constexpr Long kFirstTiming = 400;
 constexpr Long kTiming = 120;
 
-constexpr std::array<Command, kTools> kCommands = {
-    Command::New,    Command::Open,         Command::Save,     Command::Print,   Command::Mail,  Command::Find,
-    Command::Filter, Command::PreviousPage, Command::NextPage, Command::ZoomOut, Command::ZoomIn};
+constexpr std::array<Command, kTools> kCommands = {Command::New,     Command::Open,         Command::Save,
+                                                   Command::Print,   Command::Mail,         Command::Find,
+                                                   Command::Filter,  Command::PreviousPage, Command::NextPage,
+                                                   Command::ZoomOut, Command::ZoomIn};
 
 bool beginsGroup(Tool tool) {
   return tool == Tool::Print || tool == Tool::Find || tool == Tool::Back || tool == Tool::Smaller;

@@ -37,7 +37,8 @@ int usage(const String& fault) {
   printLine(u"showcase-window [--language NUMBER] [--picture FILE.png]");
   printLine(
       u"  opens the window, in the user's language or another one; with --picture it needs no display:");
-  printLine(u"  it clicks by itself, tells what happens, and writes the window, a dialog and help as pictures");
+  printLine(
+      u"  it clicks by itself, tells what happens, and writes the window, a dialog and help as pictures");
   return complain(fault);
 }
 
@@ -58,7 +59,8 @@ String numbersOf(CResources& resources) {
 bool chooseLanguage(CResources& resources, Preferences& preferences, const Options& options) {
   const auto known = showcase::languages(resources);
   preferences.language = options.language.value_or(preferences.language);
-  if (options.language && std::find(known.begin(), known.end(), *options.language) == known.end()) return false;
+  if (options.language && std::find(known.begin(), known.end(), *options.language) == known.end())
+    return false;
   showcase::speakAs(resources, preferences.language, preferences.showsStringNumbers);
   return true;
 }

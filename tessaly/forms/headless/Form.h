@@ -79,7 +79,7 @@ class TESSALY_DESKTOP_API Form {
   /// Whether the form is being designed or runs, which it does at first.
   void setUserMode(bool runs) { userMode_ = runs; }
 
-  /// The form's own screen, or another one in its place, which must outlive the form.
+  /// The form's own screen, or another one in its place, which must outlive the form and its events.
   Screen& screen() const { return *screen_; }
   void setScreen(Screen& screen) {
     screen_ = std::shared_ptr<Screen>(&screen, [](Screen*) {});

@@ -106,11 +106,7 @@ void Place::onError(const RuntimeError& error) noexcept {
 
 OLE_COLOR Place::systemColour(Long number) { return headless::systemColour(number); }
 
-Screen& Place::screen() {
-  if (form_ != nullptr) return form_->screen();
-  const auto last = screenOfForm_.lock();
-  return last ? *last : noContainer().screen();
-}
+Screen& Place::screen() { return form_ != nullptr ? form_->screen() : *screenOfForm_; }
 
 Toolbox& Place::toolbox() { return form_ != nullptr ? *form_->toolbox_ : noContainer().toolbox(); }
 

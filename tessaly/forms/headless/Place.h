@@ -89,8 +89,8 @@ class TESSALY_DESKTOP_API Place final : public Container, public std::enable_sha
   /// The form's, which hears of a control's errors also after its removal.
   std::shared_ptr<std::vector<RuntimeError>> errors_;
 
-  /// The form's, which a control that has been removed in an event may still have to put right.
-  std::weak_ptr<Screen> screenOfForm_;
+  /// The form's, once the control has left it.
+  std::shared_ptr<Screen> screenOfForm_;
   PixelPoint corner_;
   PixelSize size_;
   Long number_;

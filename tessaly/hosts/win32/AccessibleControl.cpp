@@ -16,8 +16,6 @@ struct Released {
 };
 using Standard = std::unique_ptr<IAccessible, Released>;
 
-constexpr wchar_t kPress[] = L"Press";
-
 bool isSelf(const VARIANT& child) { return child.vt == VT_I4 && child.lVal == CHILDID_SELF; }
 
 VARIANT numberOf(LONG number) {
@@ -52,12 +50,14 @@ class AccessibleControl final : public IAccessible {
     if (!window->isReachedByKeys()) state->lVal &= ~STATE_SYSTEM_FOCUSABLE;
     if (!window->isEnabled()) state->lVal |= STATE_SYSTEM_UNAVAILABLE;
     if (window->isPressed()) state->lVal |= STATE_SYSTEM_PRESSED;
+    state->lVal |= window->kind().state;
     return S_OK;
   }
 
   HRESULT STDMETHODCALLTYPE get_accDefaultAction(VARIANT child, BSTR* action) override {
-    if (!isSelf(child)) return standard_->get_accDefaultAction(child, action);
-    *action = SysAllocString(kPress);
+    const auto window = window_.lock();
+    if (!isSelf(child) || window == nullptr) return standard_->get_accDefaultAction(child, action);
+    *action = SysAllocString(window->kind().action);
     return *action != nullptr ? S_OK : E_OUTOFMEMORY;
   }
 
@@ -108,7 +108,11 @@ class AccessibleControl final : public IAccessible {
     return standard_->get_accChild(child, object);
   }
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* name) override {
-    return standard_->get_accName(child, name);
+    const auto window = window_.lock();
+    const bool isNamedByControl = isSelf(child) && window != nullptr && window->hasNameOfItsOwn();
+    if (!isNamedByControl) return standard_->get_accName(child, name);
+    *name = window->nameOfControl();
+    return *name != nullptr ? S_OK : E_OUTOFMEMORY;
   }
   HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR* value) override {
     return standard_->get_accValue(child, value);

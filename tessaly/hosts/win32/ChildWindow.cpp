@@ -56,6 +56,17 @@ bool ChildWindow::isPressed() const { return keyPress_.isHeld() || ::GetCapture(
 
 bool ChildWindow::isReachedByKeys() const { return (GetWindowLongW(window_, GWL_STYLE) & WS_TABSTOP) != 0; }
 
+bool ChildWindow::hasNameOfItsOwn() const {
+  return control_ != nullptr && kind_->name != nullptr && GetWindowTextLengthW(window_) == 0;
+}
+
+BSTR ChildWindow::nameOfControl() const noexcept try {
+  const std::wstring name = toWide(kind_->name(control_.get()));
+  return SysAllocStringLen(name.data(), static_cast<UINT>(name.size()));
+} catch (const std::bad_alloc&) {
+  return nullptr;
+}
+
 // What Resize raises must not pass through the window's procedure, so it is raised here.
 void ChildWindow::setSize(PixelSize size) {
   checkSize(size);
@@ -137,6 +148,7 @@ void ChildWindow::repaintLater() {
 
 void ChildWindow::PropertyChanged(std::u16string_view name) {
   if (name == u"enabled") tellState();
+  if (name == u"Text" && hasNameOfItsOwn()) tell(EVENT_OBJECT_NAMECHANGE);
   const auto told = hosting_.onPropertyChanged;
   if (told) told(name);
 }

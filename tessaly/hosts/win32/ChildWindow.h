@@ -1,6 +1,8 @@
 #pragma once
 
 #include <windows.h>
+// COM's own headers need windows.h first.
+#include <oleauto.h>
 
 #include <memory>
 #include <optional>
@@ -44,6 +46,10 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   bool isPressed() const;
   bool isReachedByKeys() const;
 
+  /// Whether the control names itself, since the window has no text; then its name, null for want of memory.
+  bool hasNameOfItsOwn() const;
+  BSTR nameOfControl() const noexcept;
+
   PixelSize size() override { return size_; }
   void setSize(PixelSize size) override;
   bool isVisible() override;
@@ -84,7 +90,8 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   void click();
   void pressKey();
   void releaseKey(PixelPoint point);
-  void tellState();
+  void tell(DWORD change) const;
+  void tellState() const { tell(EVENT_OBJECT_STATECHANGE); }
   PixelPoint middle() const { return {size_.width / 2, size_.height / 2}; }
 
   /// Brings the control an event, which must be held meanwhile; nothing once the window has gone.

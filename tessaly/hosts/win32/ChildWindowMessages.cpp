@@ -213,8 +213,8 @@ void ChildWindow::releaseKey(PixelPoint point) {
   tellState();
 }
 
-void ChildWindow::tellState() {
-  if (window_ != nullptr) NotifyWinEvent(EVENT_OBJECT_STATECHANGE, window_, OBJID_CLIENT, CHILDID_SELF);
+void ChildWindow::tell(DWORD change) const {
+  if (window_ != nullptr) NotifyWinEvent(change, window_, OBJID_CLIENT, CHILDID_SELF);
 }
 
 }  // namespace tessaly::win32

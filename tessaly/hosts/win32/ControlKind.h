@@ -16,6 +16,11 @@ struct ControlKind {
   /// For assistive technology: the number of its role, and whether it can be used.
   LONG role;
   bool (*isEnabled)(const void* control);
+
+  /// What its default action is called, what its state always has, and its name where the window has no text.
+  const wchar_t* action = L"Press";
+  LONG state = 0;
+  String (*name)(const void* control) = nullptr;
 };
 
 /// Registers a kind's class with its procedure; false where Windows refuses.

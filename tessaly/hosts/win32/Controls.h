@@ -11,7 +11,8 @@
 
 namespace tessaly {
 class transparentBitmap;
-}
+class URLLink;
+}  // namespace tessaly
 
 namespace tessaly::win32 {
 
@@ -22,6 +23,10 @@ namespace tessaly::win32 {
 /// held, and Return presses and releases it.
 inline constexpr wchar_t kPictureButtonClass[] = L"Tessaly.transparentBitmap";
 
+/// The class of a window that is a `URLLink`. All is as above; where the window has no text, the link's own
+/// is its name for assistive technology.
+inline constexpr wchar_t kUrlLinkClass[] = L"Tessaly.URLLink";
+
 /// Registers the controls' classes for all of the program, in the name of a module. Done twice it is done
 /// once; false where Windows refuses. A module that is unloaded before the program ends unregisters them,
 /// when the last of the controls has gone.
@@ -31,11 +36,14 @@ TESSALY_WIN32_API void unregisterControls(HINSTANCE module);
 /// The control of a window, which belongs to the window: it goes with it, or when the event ends in which the
 /// window was destroyed. None for any other window. For the window's thread, as all below.
 TESSALY_WIN32_API transparentBitmap* pictureButtonOf(HWND window);
+TESSALY_WIN32_API URLLink* urlLinkOf(HWND window);
 
 /// A window whose control reads its properties from a bag. What goes wrong comes out of the call: what the
 /// control raises, and error 7 where there is no window.
 TESSALY_WIN32_API HWND restorePictureButton(HWND parent, const RECT& bounds, int id, DWORD style,
                                             const PropertyBag& bag);
+TESSALY_WIN32_API HWND restoreUrlLink(HWND parent, const RECT& bounds, int id, DWORD style,
+                                      const PropertyBag& bag);
 
 /// The properties of a window's control. What the control raises comes out of the call; error 9 for a window
 /// that is no control.

@@ -31,7 +31,7 @@ constexpr const char* kListLook =
     "QTreeView { border: 0; padding: 0 8px; background: #ffffff; }"
     "QTreeView::item { padding: 3px 5px; border: 0; }"
     "QTreeView::item:selected { background: #d8e8f8; color: #222b36; }"
-    "QHeaderView::section { background: #ffffff; color: #5b6a7d; padding: 5px 3px; border: 0;"
+    "QHeaderView::section { background: #ffffff; color: #5b6a7d; padding: 5px 8px; border: 0;"
     " border-bottom: 1px solid #d3d8df; }";
 
 }  // namespace

@@ -46,7 +46,8 @@ QStringList listOf(const Texts& texts) {
 
 }  // namespace
 
-QtWindow::QtWindow() : toolBar_(makeToolBar()), buttons_(makeRow(*toolBar_)), grid_(makeRows()), events_(makeRows()) {
+QtWindow::QtWindow()
+    : toolBar_(makeToolBar()), buttons_(makeRow(*toolBar_)), grid_(makeRows()), events_(makeRows()) {
   auto* const lists = new QSplitter(Qt::Vertical);
   lists->addWidget(grid_);
   lists->addWidget(events_);
@@ -174,9 +175,7 @@ void QtWindow::close() {
   QTimer::singleShot(0, this, [this] { QMainWindow::close(); });
 }
 
-void QtWindow::closeEvent(QCloseEvent* event) {
-  event->setAccepted(!handlers.onClose || handlers.onClose());
-}
+void QtWindow::closeEvent(QCloseEvent* event) { event->setAccepted(!handlers.onClose || handlers.onClose()); }
 
 bool QtWindow::eventFilter(QObject* receiver, QEvent* event) {
   const bool isOurs = event->type() == QEvent::KeyPress && handlers.onKey &&

@@ -138,10 +138,9 @@ int DialogWindow::placeButtons(int top) {
   for (const DialogButton& button : dialog_.buttons) {
     const std::wstring text = toWide(button.text);
     const DWORD kind = made.empty() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-    const HWND window = CreateWindowExW(0, WC_BUTTONW, text.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind,
-                                        0, 0, 0, 0, window_,
-                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(button.id)),
-                                        GetModuleHandleW(nullptr), nullptr);
+    const HWND window = CreateWindowExW(
+        0, WC_BUTTONW, text.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, 0, 0, 0, 0, window_,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(button.id)), GetModuleHandleW(nullptr), nullptr);
     setFont(window, usual_.get());
     const int width = static_cast<int>(sizeOf(window_, usual_.get(), text, kRowWidth).cx) + kAroundText;
     made.emplace_back(window, std::max(width, kLeastButtonWidth));

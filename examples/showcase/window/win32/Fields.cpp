@@ -19,10 +19,9 @@ constexpr int kParagraphHeight = 90;
 
 HWND makeInside(HWND dialog, const wchar_t* className, DWORD style, const tessaly::String& text, int id,
                 HFONT font, DWORD extendedStyle = 0) {
-  const HWND child = CreateWindowExW(extendedStyle, className, toWide(text).c_str(),
-                                     WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, dialog,
-                                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                     GetModuleHandleW(nullptr), nullptr);
+  const HWND child = CreateWindowExW(
+      extendedStyle, className, toWide(text).c_str(), WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, dialog,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
   setFont(child, font);
   return child;
 }
@@ -40,8 +39,8 @@ HWND makeWindow(HWND dialog, const Field& field, int id, const DialogFonts& font
     case Kind::Heading:
       return makeInside(dialog, WC_STATICW, SS_NOPREFIX, field.text, id, fonts.heading);
     case Kind::Choice: {
-      const HWND window = makeInside(dialog, WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, u"",
-                                     id, fonts.usual);
+      const HWND window =
+          makeInside(dialog, WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, u"", id, fonts.usual);
       addChoices(window, CB_ADDSTRING, field);
       return window;
     }
@@ -81,8 +80,8 @@ int heightOf(HWND dialog, const Field& field, const DialogFonts& fonts) {
 
 tessaly::String textIn(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)), L'\0');
-  text.resize(static_cast<std::size_t>(
-      GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1)));
+  text.resize(
+      static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()) + 1)));
   return tessaly::fromWide(text);
 }
 

@@ -55,7 +55,8 @@ void setHeadings(HWND list, const std::vector<ListHeading>& headings) {
     description.cx = headings[i].width;
     const bool isThere = column < columnsOf(list);
     if (!isThere) description.mask |= LVCF_WIDTH;
-    SendMessageW(list, isThere ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&description));
+    SendMessageW(list, isThere ? LVM_SETCOLUMNW : LVM_INSERTCOLUMNW, i,
+                 reinterpret_cast<LPARAM>(&description));
     showSorting(list, column, headings[i].sorted);
   }
   fitColumns(list);

@@ -22,8 +22,8 @@ inline constexpr COLORREF kFaint = RGB(0x8A, 0x93, 0x9E);
 /// Fills an area with a colour.
 void fill(HDC context, const RECT& area, COLORREF colour);
 
-/// The font in which Windows writes its messages, a larger one, and another one of a size in points; 0 for the
-/// usual one.
+/// The font in which Windows writes its messages, a larger one, and another one of a size in points; 0 for
+/// the usual one.
 HFONT messageFont();
 HFONT headingFont();
 HFONT fontOf(const std::wstring& name, int points);
