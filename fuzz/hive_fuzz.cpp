@@ -36,7 +36,7 @@ class Folder {
   std::filesystem::path fill(const std::string& bytes) const {
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
-    const auto file = path_ / "user.hive";
+    auto file = path_ / "user.hive";
     std::ofstream(file, std::ios::binary) << bytes;
     return file;
   }
@@ -50,20 +50,20 @@ std::string bytesOf(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-void readAll(KeyStore& hive, KeyStore::Id key, int depth) {
+void readAll(KeyStore& hive, KeyStore::Id outer, int depth) {
   std::vector<NamedValue> values;
-  if (hive.values(key, values) == registry_result::kSuccess) {
+  if (hive.values(outer, values) == registry_result::kSuccess) {
     for (const NamedValue& named : values) {
       KeyValue value;
-      require(hive.value(key, named.name, value) != registry_result::kKeyDeleted);
+      require(hive.value(outer, named.name, value) != registry_result::kKeyDeleted);
     }
   }
   std::vector<String> names;
-  if (depth == kDeepest || hive.subkeys(key, names) != registry_result::kSuccess) return;
+  if (depth == kDeepest || hive.subkeys(outer, names) != registry_result::kSuccess) return;
   for (const String& name : names) {
     const std::u16string_view path[] = {name};
-    KeyStore::Id below = 0;
-    if (hive.find(key, path, below) == registry_result::kSuccess) readAll(hive, below, depth + 1);
+    KeyStore::Id inner = 0;
+    if (hive.find(outer, path, inner) == registry_result::kSuccess) readAll(hive, inner, depth + 1);
   }
 }
 

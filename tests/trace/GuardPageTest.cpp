@@ -49,15 +49,15 @@ TEST_P(GuardPageTest, LinesOfEverySizeAroundTheBlocksStayWithinIt) {
   for (std::size_t size = 4980; size <= 5010; ++size) {
     for (const char16_t c : {u'x', u'\xE9', u'日'}) {
       client.SendTrace(String(size, c), 0, 0, 0, True);
-      const auto length = static_cast<unsigned char>(block_.bytes()[10]) +
-                          (static_cast<unsigned char>(block_.bytes()[11]) << 8);
-      EXPECT_EQ(static_cast<std::size_t>(length), std::min<std::size_t>(size, 4986));
+      const std::size_t length =
+          std::uint8_t(block_.bytes()[10]) + (std::size_t{std::uint8_t(block_.bytes()[11])} << 8);
+      EXPECT_EQ(length, std::min<std::size_t>(size, 4986));
     }
   }
 }
 
 TEST_P(GuardPageTest, ClientsOfEverySizeAroundTheBlocksStayWithinIt) {
-  for (const std::size_t size : {0, 1000, 1662, 1663, 1664, 4987, 4988, 4989, 10'000}) {
+  for (const std::size_t size : {0U, 1000U, 1662U, 1663U, 1664U, 4987U, 4988U, 4989U, 10'000U}) {
     const String text(size, u'日');
     ZPLoggerClient client;
     client.Init(text, text, text);

@@ -39,13 +39,13 @@ class TraceProcessesTest : public testing::Test {
     return answer(client, "send 0 " + text).starts_with("sent ");
   }
 
-  static std::unique_ptr<Process> startClient(const std::string& name = "Host") {
+  std::unique_ptr<Process> startClient(const std::string& name = "Host") {
     auto client = std::make_unique<Process>("tests-trace-client");
     init(*client, name);
     return client;
   }
 
-  static void init(Process& client, const std::string& name) {
+  void init(Process& client, const std::string& name) {
     connected_ = answer(client, "init " + name + "|/l/" + name + ".log|/l/" + name + ".bak") == "ready yes";
   }
 
@@ -54,7 +54,7 @@ class TraceProcessesTest : public testing::Test {
     return "add " + name + "|/l/" + name + ".log|/l/" + name + ".bak";
   }
 
-  static inline bool connected_ = false;
+  bool connected_ = false;
 };
 
 TEST_F(TraceProcessesTest, ALineArrives) {

@@ -11,7 +11,6 @@
 namespace tessaly::tests {
 namespace {
 
-using win32::kPictureButtonClass;
 using win32::pictureButtonOf;
 
 constexpr PixelPoint kInsideButton{24, 24};

@@ -54,7 +54,7 @@ TEST_F(HiveTest, TheFirstWriteMakesFolderAndFile) {
 }
 
 TEST_F(HiveTest, ModesDoNotDependOnTheMask) {
-  for (const mode_t mask : {0, 022, 077}) {
+  for (const mode_t mask : {0U, 022U, 077U}) {
     std::filesystem::remove_all(folder().parent_path());
     const Umask masked(mask);
     ASSERT_EQ(put(*open(HiveReaders::Owner), {u"a"}, u"v", u"text"), kSuccess);
