@@ -27,10 +27,14 @@ void showForm(const Screen& screen, CResources& resources, const std::vector<Lon
 
 }  // namespace
 
-void showForms(const Screen& screen, CResources& resources) {
+void showMenu(const Screen& screen, CResources& resources) {
   showHeading(screen, u"The File menu",
               u"the letters of its accelerator keys underlined where a terminal can");
   showForm(screen, resources, {FileMenu, OpenFile, PrintFile, PrintPreview, ExitProgram});
+}
+
+void showForms(const Screen& screen, CResources& resources) {
+  showMenu(screen, resources);
   showHeading(screen, u"The Print dialog", u"its captions, and what its buttons say");
   showForm(screen, resources, {NumberOfCopies, AllPages, CurrentPage, OK, Cancel});
 }

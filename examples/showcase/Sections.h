@@ -8,6 +8,7 @@ namespace showcase {
 
 void showSettings(const Screen& screen);
 void showLanguages(const Screen& screen, tessaly::CResources& resources);
+void showMenu(const Screen& screen, tessaly::CResources& resources);
 void showForms(const Screen& screen, tessaly::CResources& resources);
 void showValues(const Screen& screen, tessaly::CResources& resources);
 void showStringNumbers(const Screen& screen, tessaly::CResources& resources);

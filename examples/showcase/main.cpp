@@ -23,6 +23,7 @@ constexpr int kFailure = 2;
 int usage(int exitCode) {
   examples::write(
       u"showcase                  shows a host's texts in several languages\n"
+      u"showcase --short          shows one menu alone\n"
       u"showcase --check FILE...  tells what is taken from language files, and what to look at in them;\n"
       u"                          exit code 0: in order, 1: something to look at, 2: a file is not used\n");
   return exitCode;
@@ -33,7 +34,8 @@ bool wantsColours() {
   return (refused == nullptr || *refused == '\0') && examples::hasColours();
 }
 
-int demonstrate(const Screen& screen) {
+/// All that it has to show, or one menu alone.
+int demonstrate(const Screen& screen, bool isShort) {
   tessaly::StartLogger();
   showcase::traceStep(u"Tessaly Reports starts");
   CResources resources;
@@ -43,6 +45,10 @@ int demonstrate(const Screen& screen) {
     screen.line(u"No language files in " + showcase::languagesFolder() +
                 u": start the showcase in the project's folder.");
     return kFailure;
+  }
+  if (isShort) {
+    showMenu(screen, resources);
+    return 0;
   }
   screen.line(u"Tessaly Reports, a host that speaks", showcase::Style::Heading);
   screen.line(u"175 texts, in built-in English and in " + textOf(resources.numberOfLangs()) +
@@ -67,7 +73,8 @@ int checkAll(const Screen& screen, const std::vector<String>& words) {
 }
 
 int run(const Screen& screen, const std::vector<String>& words) {
-  if (words.empty()) return demonstrate(screen);
+  if (words.empty()) return demonstrate(screen, false);
+  if (words.size() == 1 && words.front() == u"--short") return demonstrate(screen, true);
   if (words.size() > 1 && words.front() == u"--check") return checkAll(screen, words);
   return usage(words.size() == 1 && words.front() == u"--help" ? 0 : kFailure);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -71,6 +72,13 @@ struct Dialog {
   tessaly::platform::WindowHandle window = 0;
 };
 
+/// Whether there is something to enter; where there isn't, the first button has the focus at first.
+inline bool hasEntry(const Dialog& dialog) {
+  return std::any_of(dialog.fields.begin(), dialog.fields.end(), [](const Field& field) {
+    return field.kind >= Field::Kind::Choice && field.kind <= Field::Kind::Paragraph;
+  });
+}
+
 /// What a user does in a dialog that is open; a field is told by its place.
 struct DialogUser {
   virtual ~DialogUser() = default;
@@ -80,7 +88,7 @@ struct DialogUser {
   virtual void click(std::size_t field) = 0;
   virtual void key(std::int16_t key, std::int16_t shift) = 0;
 
-  /// The dialog as it is seen.
+  /// The dialog as it is seen; none where it can't be drawn.
   virtual tessaly::PictureReference picture() = 0;
 
   /// Comes last, where it closes the dialog.

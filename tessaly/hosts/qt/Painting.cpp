@@ -1,5 +1,6 @@
 #include "tessaly/hosts/qt/Painting.h"
 
+#include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -73,6 +74,15 @@ void paintControl(QWidget& widget, UserControl& control) {
   paintSurface(painter, widget.size(), control);
   for (const Label* label : control.labels()) paintLabel(painter, *label, control);
   if (widget.hasFocus()) paintFocus(painter, widget);
+}
+
+QSize sizeOfLabels(const UserControl& control) {
+  QSize result;
+  for (const Label* label : control.labels()) {
+    const QFontMetrics metrics(toQFont(label->font()));
+    result = result.expandedTo(metrics.size(0, toQString(label->Caption())));
+  }
+  return result;
 }
 
 }  // namespace tessaly::qt

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "tessaly/hosts/qt/Mouse.h"
+#include "tessaly/hosts/qt/Painting.h"
 #include "tessaly/hosts/qt/Text.h"
 #include "tessaly/hosts/qt/WidgetPlace.h"
 
@@ -51,6 +52,8 @@ void WidgetContainer::press() {
 }
 
 bool WidgetContainer::isPressHeld() const { return place_->isPressHeld(); }
+
+QSize WidgetContainer::sizeHint() const { return sizeOfLabels(place_->userControl()); }
 
 Container& WidgetContainer::container() const { return *place_; }
 

@@ -51,6 +51,9 @@ class TESSALY_QT_API WidgetContainer : public QWidget {
   /// Whether a button or the space bar is held that went down on the control.
   bool isPressHeld() const;
 
+  /// As large as the texts of its labels are in one line.
+  QSize sizeHint() const override;
+
  signals:
   /// The property of this bag key has changed, so the form is to be saved.
   void PropertyChanged(const QString& name);

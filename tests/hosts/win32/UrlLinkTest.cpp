@@ -96,7 +96,8 @@ TEST_F(UrlLinkTest, ShowsItsTextInBlueWhereItsAlignmentTells) {
   link().alignment(1);
   EXPECT_GT(columnsOfText().second, 195);
   link().alignment(2);
-  EXPECT_NEAR(columnsOfText().first, (200 - width) / 2, 3);
+  const Long middle = (200 - width) / 2;
+  EXPECT_NEAR(columnsOfText().first, middle, 3);
   link().text(u"");
   EXPECT_EQ(columnsOfText().second, -1);
 }

@@ -64,6 +64,7 @@ void QtDialog::addButtons() {
     widget->setProperty(kId, button.id);
     widget->setAutoDefault(false);
     widget->setDefault(box_->buttons().size() == 1);
+    if (widget->isDefault() && !hasEntry(dialog_)) widget->setFocus();
     connect(widget, &QPushButton::clicked, this, [this, id = button.id] { press(id); });
   }
   form_->addRow(box_);

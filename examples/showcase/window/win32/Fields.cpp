@@ -4,6 +4,7 @@
 
 #include "examples/showcase/window/win32/Parts.h"
 #include "tessaly/base/Text.h"
+#include "tessaly/hosts/win32/Controls.h"
 
 namespace showcase {
 
@@ -14,6 +15,7 @@ namespace {
 using Kind = Field::Kind;
 
 constexpr int kLineHeight = 24;
+constexpr int kAroundLink = 8;
 constexpr int kListHeight = 150;
 constexpr int kParagraphHeight = 90;
 
@@ -30,6 +32,16 @@ void addChoices(HWND window, UINT message, const Field& field) {
   for (const auto& choice : field.choices) {
     SendMessageW(window, message, 0, reinterpret_cast<LPARAM>(toWide(choice).c_str()));
   }
+}
+
+HWND makeLink(HWND dialog, const Field& field, int id) {
+  const HWND window =
+      makeInside(dialog, tessaly::win32::kUrlLinkClass, WS_TABSTOP, field.label, id, nullptr);
+  tessaly::URLLink* const link = tessaly::win32::urlLinkOf(window);
+  // It would draw its texts mirrored where the dialog is.
+  mirror(window, false);
+  if (link != nullptr) field.onLink(*link);
+  return window;
 }
 
 HWND makeWindow(HWND dialog, const Field& field, int id, const DialogFonts& fonts) {
@@ -62,7 +74,7 @@ HWND makeWindow(HWND dialog, const Field& field, int id, const DialogFonts& font
     case Kind::Link:
       break;
   }
-  return nullptr;
+  return makeLink(dialog, field, id);
 }
 
 bool hasLabelBefore(const Field& field) {
@@ -106,6 +118,11 @@ Row makeRow(HWND dialog, const Field& field, int id, const DialogFonts& fonts) {
   }
   row.window = makeWindow(dialog, field, id, fonts);
   row.height = heightOf(dialog, field, fonts);
+  if (field.kind == Kind::Link) {
+    const SIZE text = sizeOf(dialog, fonts.usual, toWide(field.label), kRowWidth);
+    row.width = static_cast<int>(text.cx) + kAroundLink;
+    row.height = static_cast<int>(text.cy) + kAroundLink / 2;
+  }
   return row;
 }
 

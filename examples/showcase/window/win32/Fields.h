@@ -13,6 +13,9 @@ struct Row {
   HWND window = nullptr;
   int labelWidth = 0;
   int height = 0;
+
+  /// 0 for all the room there is.
+  int width = 0;
 };
 
 /// The fonts of a dialog.

@@ -105,12 +105,6 @@ LRESULT colourOf(LPARAM notification) {
   return CDRF_DODEFAULT;
 }
 
-void mirror(HWND child, bool isFromRight) {
-  const LONG_PTR style = GetWindowLongPtrW(child, GWL_EXSTYLE);
-  SetWindowLongPtrW(child, GWL_EXSTYLE, isFromRight ? style | WS_EX_LAYOUTRTL : style & ~WS_EX_LAYOUTRTL);
-  InvalidateRect(child, nullptr, TRUE);
-}
-
 void mirrorList(HWND list, bool isFromRight) {
   mirror(list, isFromRight);
   mirror(headerOf(list), isFromRight);

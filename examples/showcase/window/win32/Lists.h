@@ -44,6 +44,5 @@ LRESULT colourOf(LPARAM notification);
 
 /// Lays a list out from the right, or from the left again.
 void mirrorList(HWND list, bool isFromRight);
-void mirror(HWND child, bool isFromRight);
 
 }  // namespace showcase

@@ -7,15 +7,15 @@
 namespace showcase {
 namespace {
 
-void addItem(HMENU menu, const MenuItem& item, UINT type);
+void addItem(HMENU menu, const MenuItem& item, UINT type = 0);
 
-HMENU makeMenu(const std::vector<MenuItem>& items, UINT type) {
+HMENU makeMenu(const std::vector<MenuItem>& items) {
   const HMENU menu = CreatePopupMenu();
-  for (const MenuItem& item : items) addItem(menu, item, type);
+  for (const MenuItem& item : items) addItem(menu, item);
   return menu;
 }
 
-/// `type` has what all of the menu's items are.
+/// `type` has what it is beside a text or a line.
 void addItem(HMENU menu, const MenuItem& item, UINT type) {
   std::wstring text = tessaly::toWide(item.text);
   MENUITEMINFOW description{};
@@ -25,7 +25,7 @@ void addItem(HMENU menu, const MenuItem& item, UINT type) {
   description.fState = (item.isEnabled ? MFS_ENABLED : MFS_GRAYED) | (item.isChecked ? MFS_CHECKED : 0U);
   description.wID = static_cast<UINT>(item.id);
   description.dwTypeData = text.data();
-  if (!item.items.empty()) description.hSubMenu = makeMenu(item.items, type & ~UINT{MFT_RIGHTJUSTIFY});
+  if (!item.items.empty()) description.hSubMenu = makeMenu(item.items);
   if (text.empty()) description.fMask &= ~UINT{MIIM_STRING};
   InsertMenuItemW(menu, static_cast<UINT>(GetMenuItemCount(menu)), TRUE, &description);
 }
@@ -38,7 +38,7 @@ void setMenus(HWND window, const std::vector<MenuItem>& menus, bool isFromRight)
   if (isFromRight) std::reverse(ordered.begin(), ordered.end());
   const HMENU bar = CreateMenu();
   for (const MenuItem& menu : ordered) {
-    addItem(bar, menu, isFromRight ? MFT_RIGHTJUSTIFY | MFT_RIGHTORDER : 0);
+    addItem(bar, menu, isFromRight ? MFT_RIGHTJUSTIFY : 0);
   }
   const HMENU former = GetMenu(window);
   SetMenu(window, bar);

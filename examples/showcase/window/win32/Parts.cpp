@@ -69,6 +69,12 @@ void setFont(HWND window, HFONT font) {
   SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
+void mirror(HWND child, bool isFromRight) {
+  const LONG_PTR style = GetWindowLongPtrW(child, GWL_EXSTYLE);
+  SetWindowLongPtrW(child, GWL_EXSTYLE, isFromRight ? style | WS_EX_LAYOUTRTL : style & ~WS_EX_LAYOUTRTL);
+  InvalidateRect(child, nullptr, TRUE);
+}
+
 void fitStatus(HWND status, int width) {
   const std::array<int, 3> ends = {width - 2 * kStatusPart, width - kStatusPart, -1};
   SendMessageW(status, SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));

@@ -36,6 +36,9 @@ HWND makeToolTips(HWND parent);
 
 void setFont(HWND window, HFONT font);
 
+/// Lays a child out from the right, or from the left again.
+void mirror(HWND child, bool isFromRight);
+
 /// Parts the line at the bottom, the first taking what room the others leave.
 void fitStatus(HWND status, int width);
 
