@@ -75,7 +75,12 @@ void URLLink::lblURLMouseDown(MouseState button, MouseState /*shift*/, float /*x
   String address = url_;
   if (isClick && !isWanted(address)) return;
   Screen& screen = children_->userControl->container().screen();
-  if (isClick) open(address, screen);
+  try {
+    if (isClick) open(address, screen);
+  } catch (...) {
+    screen.MousePointer(kUsualPointer);
+    throw;
+  }
   screen.MousePointer(kUsualPointer);
 }
 

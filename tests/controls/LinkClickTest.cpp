@@ -169,6 +169,12 @@ TEST_F(LinkClickTest, GivesThePointerBackThoughNoBoxCanBeShown) {
   EXPECT_EQ(stage_.press().back(), "Screen.MousePointer = 0");
 }
 
+TEST_F(LinkClickTest, GivesThePointerBackThoughTheBoxFails) {
+  stage_.shell.raise(RuntimeError::EntryPointNotFound);
+  stage_.boxes.answer([](const MessageBoxes::Box&) -> Long { throw RuntimeError(RuntimeError::Overflow); });
+  EXPECT_EQ(stage_.press().back(), "Screen.MousePointer = 0");
+}
+
 TEST_F(LinkClickTest, IsEndedByAnErrorOfTheHost) {
   link_.events.GoToURL = [](String&, Boolean&) { throw RuntimeError(RuntimeError::Overflow); };
   EXPECT_EQ(stage_.press(), Calls{});

@@ -18,6 +18,7 @@ void showErrorLater(QWidget& widget, const RuntimeError& error) noexcept try {
   }
   open = new QMessageBox(QMessageBox::Critical, QGuiApplication::applicationDisplayName(), text,
                          QMessageBox::Ok, widget.window());
+  open->setTextFormat(Qt::PlainText);
   open->setAttribute(Qt::WA_DeleteOnClose);
   QMetaObject::invokeMethod(open, "open", Qt::QueuedConnection);
 } catch (const std::bad_alloc&) {

@@ -47,7 +47,7 @@ int textFlags(Long alignment) {
   const Qt::AlignmentFlag side = alignment == 1   ? Qt::AlignRight
                                  : alignment == 2 ? Qt::AlignHCenter
                                                   : Qt::AlignLeft;
-  return static_cast<int>(side) | Qt::AlignTop | Qt::TextWordWrap;
+  return static_cast<int>(side) | Qt::AlignAbsolute | Qt::AlignTop | Qt::TextWordWrap;
 }
 
 void paintLabel(QPainter& painter, const Label& label, const UserControl& control) {

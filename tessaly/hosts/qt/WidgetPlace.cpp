@@ -14,8 +14,7 @@
 namespace tessaly::qt {
 namespace {
 
-constexpr MouseState kLeftButton = 1;
-constexpr QPoint kOutside(-1, -1);
+constexpr PixelPoint kOutside{-1, -1};
 
 /// True for as long as a call runs.
 class During {
@@ -99,21 +98,13 @@ bool WidgetPlace::tick(int timerId) {
 
 void WidgetPlace::pressKey() {
   if (isPressHeld()) return;
-  isKeyHeld_ = true;
-  keyPointer_ = toQPoint(middle());
-  raise([this](UserControl& control) {
-    const PixelPoint point = middle();
-    control.mouseMove(0, 0, point);
-    control.mouseDown(kLeftButton, 0, point);
-  });
+  const auto held = shared_from_this();
+  keyPress_.begin(middle(), [this](const auto& event) { raise(event); });
 }
 
 void WidgetPlace::releaseKey(bool isOnControl) {
-  if (!std::exchange(isKeyHeld_, false)) return;
   const auto held = shared_from_this();
-  keyPointer_ = isOnControl ? toQPoint(middle()) : kOutside;
-  raise([point = toPoint(*keyPointer_)](UserControl& control) { control.mouseUp(kLeftButton, 0, point); });
-  endKeyPointer();
+  keyPress_.end(isOnControl ? middle() : kOutside, [this](const auto& event) { raise(event); });
 }
 
 platform::WindowHandle WidgetPlace::hWnd() {
@@ -121,7 +112,8 @@ platform::WindowHandle WidgetPlace::hWnd() {
 }
 
 PixelPoint WidgetPlace::GetCursorPos() {
-  return toPoint(keyPointer_ ? widget_->mapToGlobal(*keyPointer_) : pointer.position(*widget_));
+  const auto pressed = keyPress_.pointer();
+  return toPoint(pressed ? widget_->mapToGlobal(toQPoint(*pressed)) : pointer.position(*widget_));
 }
 
 PixelPoint WidgetPlace::ScreenToClient(PixelPoint point) {

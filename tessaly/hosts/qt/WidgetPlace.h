@@ -1,10 +1,10 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 
 #include "tessaly/forms/Container.h"
 #include "tessaly/forms/Guarded.h"
+#include "tessaly/forms/KeyPress.h"
 #include "tessaly/forms/UserControl.h"
 #include "tessaly/hosts/qt/Pointer.h"
 #include "tessaly/hosts/qt/Timers.h"
@@ -47,10 +47,10 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   /// that the mouse holds goes before.
   void pressKey();
   void releaseKey(bool isOnControl);
-  bool isPressHeld() const { return isCaptured_ || isKeyHeld_; }
+  bool isPressHeld() const { return isCaptured_ || keyPress_.isHeld(); }
 
   /// Whatever a key made of the pointer, it is where it is.
-  void endKeyPointer() { keyPointer_.reset(); }
+  void endKeyPointer() { keyPress_.forgetPointer(); }
 
   Pointer pointer;
   WidgetContainer::ErrorHandler errorHandler;
@@ -89,8 +89,7 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
 
   /// Qt brings a widget that was pressed all of the mouse until the release, so nothing is left to do.
   bool isCaptured_ = false;
-  bool isKeyHeld_ = false;
-  std::optional<QPoint> keyPointer_;
+  KeyPress keyPress_;
   Timers timers_;
   std::shared_ptr<void> control_;
 };

@@ -9,13 +9,13 @@
 
 #include "tessaly/forms/Container.h"
 #include "tessaly/forms/Guarded.h"
+#include "tessaly/forms/KeyPress.h"
 #include "tessaly/forms/PropertyBag.h"
 #include "tessaly/forms/UserControl.h"
 #include "tessaly/hosts/win32/Beginning.h"
 #include "tessaly/hosts/win32/ControlKind.h"
 #include "tessaly/hosts/win32/Controls.h"
 #include "tessaly/hosts/win32/Handles.h"
-#include "tessaly/hosts/win32/KeyPress.h"
 #include "tessaly/hosts/win32/Timers.h"
 #include "tessaly/hosts/win32/ToolTip.h"
 

@@ -86,6 +86,7 @@ std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM l
       return handleDrawing(message, wParam);
     case WM_KEYDOWN:
     case WM_KEYUP:
+    case WM_SYSKEYUP:
     case WM_GETDLGCODE:
     case BM_CLICK:
       return handleKeys(message, wParam, lParam);
@@ -131,12 +132,15 @@ std::optional<LRESULT> ChildWindow::handleKeys(UINT message, WPARAM wParam, LPAR
     click();
     return 0;
   }
-  if (!isReachedByKeys()) return std::nullopt;
+  const bool isUp = message == WM_KEYUP || message == WM_SYSKEYUP;
+  if (isUp && wParam == VK_SPACE && keyPress_.isHeld()) {
+    releaseKey(middle());
+    return 0;
+  }
+  if (isUp || !isReachedByKeys()) return std::nullopt;
   if (message == WM_GETDLGCODE) return DLGC_BUTTON | (isReturn(lParam) ? DLGC_WANTMESSAGE : 0);
   if (wParam != VK_SPACE && wParam != VK_RETURN) return std::nullopt;
-  if (message == WM_KEYUP) {
-    if (wParam == VK_SPACE) releaseKey(middle());
-  } else if ((lParam & kWasDownBefore) == 0) {
+  if ((lParam & kWasDownBefore) == 0) {
     pressKey();
     if (wParam == VK_RETURN) releaseKey(middle());
   }

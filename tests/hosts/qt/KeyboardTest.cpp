@@ -81,6 +81,18 @@ TEST_F(QtKeyboardTest, FocusThatGoesTakesAHeldPressBack) {
   EXPECT_FALSE(button().isPressHeld());
 }
 
+// The focus went to the dialog while the press was still raised, and the automatic clicks went on behind it.
+TEST_F(QtKeyboardTest, ADialogInTheClickOfTheKeysPressEndsThePress) {
+  button().automaticClick(true);
+  focus();
+  QObject::connect(&button(), &qt::PictureButton::OnButtonClick, [this] { button().clearFocus(); });
+  QTest::keyPress(&button(), Qt::Key_Space);
+  EXPECT_FALSE(button().isPressHeld());
+  tick(button(), kPoll);
+  EXPECT_TRUE(timers().empty());
+  EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick"}));
+}
+
 TEST_F(QtKeyboardTest, AKeyWithModifiersIsSomebodyElses) {
   focus();
   QTest::keyClick(&button(), Qt::Key_Space, Qt::ControlModifier);

@@ -78,8 +78,13 @@ void HelpBook::readLists() {
 
 void HelpBook::chooseHome() {
   if (!homeName_.empty()) home_ = find(homeName_);
+  constexpr int kMostTried = 100;
+  int tried = 0;
   for (const SitemapEntry& entry : contents_) {
-    if (!home_ && !entry.page.empty()) home_ = find(entry.page);
+    if (home_ || tried == kMostTried) break;
+    if (entry.page.empty()) continue;
+    home_ = find(entry.page);
+    ++tried;
   }
   for (const std::u16string_view name : kUsualHomes) {
     if (!home_) home_ = find(name);
@@ -113,11 +118,14 @@ std::optional<PageReference> HelpBook::findBelow(std::u16string_view path) const
 }
 
 std::vector<String> HelpBook::mapTexts() const {
-  constexpr std::size_t kMostTexts = 64;
+  constexpr std::size_t kMostTexts = 16;
+  constexpr std::size_t kLongestText = 1 << 20;
   std::vector<String> texts;
   for (const String& name : files_->names()) {
     const bool isMap = endsWith(name, u".h") || endsWith(name, u".ali") || endsWith(name, u".hhp");
-    if (isMap && texts.size() < kMostTexts) texts.push_back(text(name));
+    if (!isMap || texts.size() == kMostTexts) continue;
+    String map = text(name);
+    if (map.size() <= kLongestText) texts.push_back(std::move(map));
   }
   return texts;
 }

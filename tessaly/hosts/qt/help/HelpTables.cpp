@@ -134,7 +134,8 @@ std::vector<SitemapEntry> titledPages(const TopicTables& tables, Long codePage) 
   const ByteView topics(tables.topics);
   const ByteView urls(tables.urlTable);
   std::size_t taken = 0;
-  for (std::size_t at = 0; topics.has(at, kTopic) && taken < kMostTitleBytes; at += kTopic) {
+  for (std::size_t at = 0; topics.has(at, kTopic) && taken < kMostTitleBytes && pages.size() < kMostEntries;
+       at += kTopic) {
     const std::size_t url = topics.number(at + 8);
     if (!urls.has(url, kUrl)) continue;
     const std::string title = textAt(ByteView(tables.strings), topics.number(at + 4));

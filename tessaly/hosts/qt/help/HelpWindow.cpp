@@ -118,17 +118,22 @@ void HelpWindow::setOnTop(bool isOnTop) {
 void HelpWindow::setOwner(QWidget* owner) {
   QWindow* const modal = QGuiApplication::modalWindow();
   winId();
-  windowHandle()->setTransientParent(modal != nullptr || owner == nullptr ? modal
-                                                                          : owner->window()->windowHandle());
+  standBefore(modal != nullptr || owner == nullptr ? modal : owner->window()->windowHandle());
+}
+
+/// Two windows that stand before each other would have Qt look for the first of them without end.
+void HelpWindow::standBefore(QWindow* window) {
+  QWindow* const own = windowHandle();
+  if (window == own) return;
+  if (window != nullptr && own->isAncestorOf(window, QWindow::IncludeTransients)) return;
+  own->setTransientParent(window);
 }
 
 /// A dialog blocks all windows but those that stand before it.
 bool HelpWindow::event(QEvent* event) {
   const bool isHandled = QMainWindow::event(event);
   QWindow* const modal = QGuiApplication::modalWindow();
-  if (event->type() == QEvent::WindowBlocked && modal != nullptr && modal != windowHandle()) {
-    windowHandle()->setTransientParent(modal);
-  }
+  if (event->type() == QEvent::WindowBlocked && modal != nullptr) standBefore(modal);
   return isHandled;
 }
 

@@ -44,6 +44,7 @@ class HelpWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void standBefore(QWindow* window);
   void addSidePane();
   void addTools();
   void addTool(QToolBar& bar, QAction* action, const QList<QKeySequence>& keys);

@@ -1,5 +1,7 @@
 #include "tessaly/hosts/qt/help/PageView.h"
 
+#include <QBuffer>
+#include <QImageReader>
 #include <QPainter>
 #include <QTextDocument>
 #include <array>
@@ -43,9 +45,7 @@ bool endsWithOneOf(const QString& name, std::initializer_list<const char*> endin
   });
 }
 
-bool isPicture(const QString& name) {
-  return endsWithOneOf(name, {".png", ".gif", ".jpg", ".jpeg", ".bmp", ".svg"});
-}
+bool isPicture(const QString& name) { return endsWithOneOf(name, {".png", ".gif", ".jpg", ".jpeg", ".bmp"}); }
 
 bool isOutside(const QString& scheme) {
   static const std::array<QLatin1String, 4> kKnown{QLatin1String("http"), QLatin1String("https"),
@@ -53,8 +53,19 @@ bool isOutside(const QString& scheme) {
   return std::find(kKnown.begin(), kKnown.end(), scheme) != kKnown.end();
 }
 
+/// Of the formats that pages have, and no other that a plug-in may bring.
+QImage decoded(const std::string& bytes) {
+  QBuffer buffer;
+  buffer.setData(bytes.data(), static_cast<int>(bytes.size()));
+  QImageReader reader(&buffer);
+  const QByteArray format = reader.format();
+  const bool isKnown = format == "png" || format == "gif" || format == "jpeg" || format == "bmp";
+  return isKnown ? reader.read() : QImage();
+}
+
 /// A relative one comes as an address of the file that it stands in.
 bool leadsIntoArchive(const QUrl& url) {
+  if (isOutside(url.scheme())) return false;
   if (HelpShelf::isOwn(url)) return url.path().contains(QLatin1String(".chm::"), Qt::CaseInsensitive);
   return namesArchive(fromQString(url.toString()));
 }
@@ -89,6 +100,8 @@ void PageView::turnToReading() {
 QVariant PageView::loadResource(int type, const QUrl& name) {
   const QUrl url = name.isRelative() ? source().resolved(name) : name;
   if (type == QTextDocument::HtmlResource) {
+    pictures_ = 0;
+    pictureBytes_ = 0;
     const QString page = html(url);
     isRightToLeft_ = readsFromTheRight(page);
     return page;
@@ -107,18 +120,22 @@ QString PageView::html(const QUrl& url) const {
   const auto bytes = page ? book->read(page->page) : std::nullopt;
   if (!bytes) return noticeFor(shelf_, url);
   const QString text = pageText(*bytes, book->codePage());
+  if (!isFitToShow(text)) return noticeFor(shelf_, url);
   if (endsWithOneOf(name, {".txt", ".log"})) {
     return QStringLiteral("<pre style=\"white-space: pre-wrap\">%1</pre>").arg(text.toHtmlEscaped());
   }
-  return isFitToShow(text) && !text.trimmed().isEmpty() ? withTypedStyles(text) : noticeFor(shelf_, url);
+  return text.trimmed().isEmpty() ? noticeFor(shelf_, url) : withTypedStyles(text);
 }
 
-QVariant PageView::picture(const QUrl& url) const {
+/// Pictures take room as long as the page is shown, and each name of one takes it again.
+QVariant PageView::picture(const QUrl& url) {
+  if (pictureBytes_ >= kMostPictureBytes || ++pictures_ > kMostPictures) return missingPicture();
   const HelpBook* const book = shelf_.book(HelpShelf::numberOf(url));
   const auto page = book != nullptr ? book->find(HelpShelf::referenceOf(url)) : std::nullopt;
   const auto bytes = page ? book->read(page->page) : std::nullopt;
   if (!bytes) return missingPicture();
-  const QImage image = QImage::fromData(QByteArrayView(bytes->data(), static_cast<qsizetype>(bytes->size())));
+  const QImage image = decoded(*bytes);
+  pictureBytes_ += static_cast<qsizetype>(bytes->size()) + image.sizeInBytes();
   return image.isNull() ? missingPicture() : image;
 }
 

@@ -27,11 +27,16 @@ class PageView : public QTextBrowser {
   void follow(const QUrl& url);
   void followIntoArchive(const QString& link);
   QString html(const QUrl& url) const;
-  QVariant picture(const QUrl& url) const;
+  QVariant picture(const QUrl& url);
   void turnToReading();
 
   HelpShelf& shelf_;
+  static constexpr int kMostPictures = 1000;
+  static constexpr qsizetype kMostPictureBytes = qsizetype{256} << 20;
+
   bool isRightToLeft_ = false;
+  int pictures_ = 0;
+  qsizetype pictureBytes_ = 0;
 };
 
 }  // namespace tessaly::qt

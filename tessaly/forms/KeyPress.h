@@ -4,10 +4,11 @@
 
 #include "tessaly/forms/UserControl.h"
 
-namespace tessaly::win32 {
+namespace tessaly {
 
-/// A key that is held in the place of the mouse's left button. As long as it is, the control finds the
-/// pointer in its middle.
+/// For a container: a key that is held in the place of the mouse's left button. As long as it is, the control
+/// finds the pointer in its middle. `raise` brings the control an event, after which whoever calls must still
+/// hold this.
 class KeyPress {
  public:
   bool isHeld() const { return isHeld_; }
@@ -15,7 +16,7 @@ class KeyPress {
   /// Where the control finds the pointer, in its own pixels; nothing where it is the mouse's.
   std::optional<PixelPoint> pointer() const { return pointer_; }
 
-  /// `raise` brings the control an event. An end that comes while the press itself is raised waits for it.
+  /// An end that comes while the press itself is raised waits for it.
   template <class Raise>
   void begin(PixelPoint point, const Raise& raise) {
     if (isHeld_) return;
@@ -28,6 +29,9 @@ class KeyPress {
     isBeginning_ = false;
     if (laterEnd_) end(*laterEnd_, raise);
   }
+
+  /// The pointer is where the mouse has it, whatever the key made of it.
+  void forgetPointer() { pointer_.reset(); }
 
   /// Lets go of the key with the pointer at a point, which for a press that is to come to nothing is outside.
   template <class Raise>
@@ -44,12 +48,10 @@ class KeyPress {
   }
 
  private:
-  static constexpr MouseState kLeftButton = 1;
-
   bool isHeld_ = false;
   bool isBeginning_ = false;
   std::optional<PixelPoint> pointer_;
   std::optional<PixelPoint> laterEnd_;
 };
 
-}  // namespace tessaly::win32
+}  // namespace tessaly
