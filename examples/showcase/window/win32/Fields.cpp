@@ -35,8 +35,7 @@ void addChoices(HWND window, UINT message, const Field& field) {
 }
 
 HWND makeLink(HWND dialog, const Field& field, int id) {
-  const HWND window =
-      makeInside(dialog, tessaly::win32::kUrlLinkClass, WS_TABSTOP, field.label, id, nullptr);
+  const HWND window = makeInside(dialog, tessaly::win32::kUrlLinkClass, WS_TABSTOP, field.label, id, nullptr);
   tessaly::URLLink* const link = tessaly::win32::urlLinkOf(window);
   // It would draw its texts mirrored where the dialog is.
   mirror(window, false);
