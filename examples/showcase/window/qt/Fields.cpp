@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 
 #include "tessaly/hosts/qt/Text.h"
+#include "tessaly/hosts/qt/UrlLink.h"
 
 namespace showcase {
 
@@ -36,6 +37,7 @@ QWidget* makeWords(const Field& field) {
     words->setFont(font);
   }
   words->setWordWrap(true);
+  words->setMinimumWidth(kWidth);
   return words;
 }
 
@@ -58,6 +60,15 @@ QWidget* makeLine() {
   return line;
 }
 
+/// As large as its text.
+QWidget* makeLink(const Field& field) {
+  auto* const link = new tessaly::qt::UrlLink;
+  link->setFocusPolicy(Qt::TabFocus);
+  link->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  field.onLink(link->control());
+  return link;
+}
+
 }  // namespace
 
 QWidget* makeWidget(const Field& field) {
@@ -78,7 +89,7 @@ QWidget* makeWidget(const Field& field) {
     case Field::Kind::Link:
       break;
   }
-  return new QWidget;
+  return makeLink(field);
 }
 
 bool hasLabelBefore(const Field& field) {

@@ -1,9 +1,11 @@
 #include "examples/showcase/window/qt/QtDialog.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
 #include <utility>
@@ -38,6 +40,7 @@ QtDialog::QtDialog(Dialog& dialog, QWidget& parent, DialogVisit visit)
       box_(new QDialogButtonBox) {
   constexpr int margin = 16;
   form_->setContentsMargins(margin, margin, margin, margin);
+  form_->setVerticalSpacing(margin / 2 + 2);
   setWindowTitle(toQString(dialog.title));
   for (const Field& field : dialog_.fields) widgets_.push_back(makeField(field));
   addButtons();
@@ -62,12 +65,11 @@ void QtDialog::addButtons() {
   for (const DialogButton& button : dialog_.buttons) {
     auto* const widget = box_->addButton(toQString(button.text), roleOf(button.id));
     widget->setProperty(kId, button.id);
-    widget->setAutoDefault(false);
     widget->setDefault(box_->buttons().size() == 1);
-    if (widget->isDefault() && !hasEntry(dialog_)) widget->setFocus();
     connect(widget, &QPushButton::clicked, this, [this, id = button.id] { press(id); });
   }
   form_->addRow(box_);
+  if (!hasEntry(dialog_)) box_->buttons().front()->setFocus();
 }
 
 Long QtDialog::run() {
@@ -115,7 +117,15 @@ void QtDialog::choose(std::size_t field, Long number) {
   writeFields();
 }
 
-void QtDialog::click(std::size_t /*field*/) {}
+void QtDialog::click(std::size_t field) {
+  QWidget& widget = *widgets_[field];
+  const QPointF place(1, 1);
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, place, widget.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+  }
+}
 
 void QtDialog::key(std::int16_t key, std::int16_t shift) { dialog_.onKey(key, shift); }
 

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLoggingCategory>
 #include <QMouseEvent>
 #include <QSplitter>
 #include <QTimer>
@@ -252,7 +253,11 @@ struct Running {
 }  // namespace
 
 std::shared_ptr<Window> openWindow(int& argc, char** argv, bool isToBeSeen) {
-  if (!isToBeSeen) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!isToBeSeen) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // It says of each window anew what it doesn't do.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+  }
   const auto running = std::make_shared<Running>(argc, argv);
   return {running, running->window.get()};
 }

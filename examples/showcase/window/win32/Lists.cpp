@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "examples/showcase/window/win32/Parts.h"
 #include "tessaly/base/Text.h"
 
@@ -9,6 +11,7 @@ namespace showcase {
 namespace {
 
 constexpr int kRowHeight = 22;
+constexpr int kLeastWidth = 80;
 
 int countOf(HWND list) { return static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0)); }
 
@@ -93,7 +96,14 @@ void scrollToEnd(HWND list) {
 
 void fitColumns(HWND list) {
   const int last = columnsOf(list) - 1;
-  if (last >= 0) SendMessageW(list, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(last), LVSCW_AUTOSIZE_USEHEADER);
+  RECT inside{};
+  GetClientRect(list, &inside);
+  auto rest = static_cast<int>(inside.right);
+  for (int column = 0; column < last; ++column) {
+    rest -= static_cast<int>(SendMessageW(list, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column), 0));
+  }
+  if (last >= 0)
+    SendMessageW(list, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(last), std::max(rest, kLeastWidth));
 }
 
 LRESULT colourOf(LPARAM notification) {

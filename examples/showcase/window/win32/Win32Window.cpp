@@ -213,6 +213,7 @@ void Win32Window::setGrid(const Grid& grid) {
   setHeadings(grid_, headings);
   removeRows(grid_);
   for (const auto& row : grid.rows) addRow(grid_, row, false);
+  fitColumns(grid_);
   if (grid.selected >= 0) selectRow(grid_, grid.selected);
   SendMessageW(grid_, WM_SETREDRAW, TRUE, 0);
   InvalidateRect(grid_, nullptr, TRUE);
@@ -241,6 +242,8 @@ void Win32Window::setEvents(const std::vector<Event>& events) {
 
 void Win32Window::addEvent(const Event& event) {
   addRow(events_, {event.cells.begin(), event.cells.end()}, event.isMinor);
+  // A scroll bar may have come.
+  fitColumns(events_);
   scrollToEnd(events_);
 }
 
