@@ -61,7 +61,7 @@ Text slotOf(Command command) { return entryOf(command).slot; }
 tessaly::String keyOf(Command command) { return tessaly::String(entryOf(command).keyName); }
 
 std::optional<Command> commandOf(std::int16_t key, std::int16_t shift) {
-  const auto entry = std::find_if(kEntries.begin(), kEntries.end(), [&](const Entry& each) {
+  const auto* const entry = std::find_if(kEntries.begin(), kEntries.end(), [&](const Entry& each) {
     return each.key != 0 && each.key == key && each.shift == shift;
   });
   return entry == kEntries.end() ? std::nullopt : std::optional(entry->command);

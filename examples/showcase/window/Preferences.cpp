@@ -16,7 +16,7 @@ constexpr std::u16string_view kFontValue = u"Grid font";
 constexpr std::u16string_view kFontSizeValue = u"Grid font size";
 constexpr std::u16string_view kReportValue = u"Report";
 constexpr std::u16string_view kTraceValue = u"Logger";
-constexpr Long kMostPoints = 72;
+constexpr Long kLargestFont = 72;
 
 CRegistry settingsAt(Long root, std::u16string_view path) {
   CRegistry settings;
@@ -36,7 +36,7 @@ Preferences loadPreferences() {
   preferences.gridFontSize = settings.GetLong(kFontSizeValue, 0);
   preferences.report = settings.GetString(kReportValue, u"");
   // Anybody may have written it.
-  if (preferences.gridFontSize < 0 || preferences.gridFontSize > kMostPoints) preferences.gridFontSize = 0;
+  if (preferences.gridFontSize < 0 || preferences.gridFontSize > kLargestFont) preferences.gridFontSize = 0;
   return preferences;
 }
 

@@ -19,8 +19,9 @@ constexpr Long kMostZoom = 200;
 
 /// The first cell with a text, which is folded already.
 std::optional<Long> columnWith(const ReportRow& row, std::u16string_view text) {
-  const auto cell = std::find_if(row.cells.begin(), row.cells.end(),
-                                 [&](const String& each) { return folded(each).find(text) != String::npos; });
+  const auto* const cell = std::find_if(row.cells.begin(), row.cells.end(), [&](const String& each) {
+    return folded(each).find(text) != String::npos;
+  });
   if (cell == row.cells.end()) return std::nullopt;
   return static_cast<Long>(cell - row.cells.begin());
 }
@@ -60,9 +61,15 @@ void Report::sort(Column column, bool isDescending) {
     if (column == Column::Amount) return one.amount < other.amount;
     return folded(one.cell(column)) < folded(other.cell(column));
   };
-  std::stable_sort(rows_.begin(), rows_.end(), [&](const ReportRow& one, const ReportRow& other) {
-    return isDescending ? isBefore(other, one) : isBefore(one, other);
-  });
+  const auto isBehind = [&](const ReportRow& one, const ReportRow& other) {
+    const ReportRow& first = other;
+    return isBefore(first, one);
+  };
+  if (isDescending) {
+    std::stable_sort(rows_.begin(), rows_.end(), isBehind);
+  } else {
+    std::stable_sort(rows_.begin(), rows_.end(), isBefore);
+  }
   seen_ = rowsWith(filter_);
   sortedColumn_ = column;
   isDescending_ = isDescending;
@@ -129,7 +136,7 @@ std::vector<ReportRow> Report::seenRows() const {
 
 std::vector<ReportRow> Report::pageRows() const {
   std::vector<ReportRow> rows = seenRows();
-  const auto begin = rows.begin() + (page_ - 1) * kRowsOfPage;
+  const auto begin = rows.begin() + std::ptrdiff_t{page_ - 1} * kRowsOfPage;
   return {begin, begin + std::min<std::ptrdiff_t>(kRowsOfPage, rows.end() - begin)};
 }
 

@@ -168,7 +168,7 @@ Saying Reports::mail() {
   const auto address = writeMail(desk_, resources_.resWithArg(ReportOf, nameShown(), clock_()));
   if (!address) return Ready;
   ++timesSent_;
-  const Saying sent(MessageSentTo, *address);
+  Saying sent(MessageSentTo, *address);
   desk_.show(Desk::kTell, sent);
   return sent;
 }
