@@ -9,7 +9,6 @@ namespace {
 
 using tessaly::Long;
 using tessaly::String;
-using tessaly::platform::fake::Shell;
 
 constexpr Long kYes = 6;
 constexpr std::int16_t kF1 = 112;

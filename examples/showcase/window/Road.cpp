@@ -9,7 +9,6 @@ namespace {
 
 using examples::textOf;
 using tessaly::Long;
-using tessaly::PictureReference;
 using tessaly::String;
 
 constexpr Long kTurnedPages = 4;
