@@ -61,12 +61,8 @@ void Report::sort(Column column, bool isDescending) {
     if (column == Column::Amount) return one.amount < other.amount;
     return folded(one.cell(column)) < folded(other.cell(column));
   };
-  const auto isBehind = [&](const ReportRow& one, const ReportRow& other) {
-    const ReportRow& first = other;
-    return isBefore(first, one);
-  };
   if (isDescending) {
-    std::stable_sort(rows_.begin(), rows_.end(), isBehind);
+    std::stable_sort(rows_.rbegin(), rows_.rend(), isBefore);  // equal rows keep their order from here too
   } else {
     std::stable_sort(rows_.begin(), rows_.end(), isBefore);
   }
