@@ -18,6 +18,8 @@ inline constexpr tessaly::Long kBuiltInEnglish = 2057;
 enum Text : tessaly::Long {
   Cancel = 0,
   OK = 1,
+  YesButton = 2,
+  NoButton = 3,
   HelpButton = 4,
   Open = 12,
   PageOf = 13,

@@ -15,6 +15,7 @@ class FakeWindow final : public Window {
   tessaly::platform::WindowHandle handle() override { return kHandle; }
   void setTitle(std::u16string_view text) override { title = text; }
   void setRightToLeft(bool isIt) override { isRightToLeft = isIt; }
+  void setBoxWords(const BoxWords& words) override { boxWords = words; }
   void setMenu(const std::vector<MenuItem>& all) override { menus = all; }
   tessaly::transparentBitmap& addButton() override;
   void addGap() override { ++gaps; }
@@ -53,6 +54,7 @@ class FakeWindow final : public Window {
 
   tessaly::headless::Form form;
   tessaly::String title;
+  BoxWords boxWords;
   bool isRightToLeft = false;
   bool isClosed = false;
   int gaps = 0;

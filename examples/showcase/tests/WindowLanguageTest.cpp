@@ -58,6 +58,8 @@ std::vector<String> allTexts(const FakeWindow& window) {
   addMenuTexts(window.menus, texts);
   for (const auto& [button, name] : window.names) texts.push_back(name);
   for (const auto& heading : window.grid.headings) texts.push_back(heading.text);
+  const BoxWords& words = window.boxWords;
+  texts.insert(texts.end(), {words.ok, words.cancel, words.yes, words.no});
   texts.insert(texts.end(), window.headings.begin(), window.headings.end());
   for (const Event& event : window.events) {
     texts.push_back(event.cells[1]);

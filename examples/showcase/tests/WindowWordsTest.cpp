@@ -37,6 +37,12 @@ TEST(WindowOptionsTest, APictureAndALanguageAreTaken) {
   EXPECT_EQ(both.picture, u"window.png");
 }
 
+TEST(WindowOptionsTest, HelpIsAWishAndNoFault) {
+  EXPECT_TRUE(optionsOf({u"--help"}).isHelpWanted);
+  EXPECT_EQ(optionsOf({u"--help"}).fault, u"");
+  EXPECT_FALSE(optionsOf({}).isHelpWanted);
+}
+
 TEST(WindowOptionsTest, WhatIsWrongIsTold) {
   EXPECT_EQ(optionsOf({u"help"}).fault, u"\"help\" is none of its arguments.");
   EXPECT_EQ(optionsOf({u"--picture"}).fault, u"--picture needs a word behind it.");

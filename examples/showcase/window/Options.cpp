@@ -21,6 +21,8 @@ void takeValue(Options& options, const String& word, const String& value) {
 
 Options optionsOf(const std::vector<String>& words) {
   Options options;
+  options.isHelpWanted = !words.empty() && words[0] == u"--help";
+  if (options.isHelpWanted) return options;
   for (std::size_t i = 0; i < words.size() && options.fault.empty(); i += 2) {
     if (words[i] != u"--picture" && words[i] != u"--language") {
       options.fault = u"\"" + words[i] + u"\" is none of its arguments.";

@@ -15,6 +15,9 @@ struct Options {
   /// The number of the language; none for the user's.
   std::optional<tessaly::Long> language;
 
+  /// Whether only the arguments are to be told.
+  bool isHelpWanted = false;
+
   /// What is wrong with the command line, as a whole sentence; empty where nothing is.
   tessaly::String fault;
 };

@@ -137,6 +137,10 @@ Saying Reports::rowsShown() const {
 
 void Reports::speak() {
   toolBar_.speak(resources_);
+  window_.setBoxWords({.ok = resources_.res(OK),
+                       .cancel = resources_.res(Cancel),
+                       .yes = resources_.res(YesButton),
+                       .no = resources_.res(NoButton)});
   window_.setEventHeadings({resources_.res(TimeHeading), resources_.res(NameHeading),
                             resources_.res(TypeHeading), resources_.res(CommentHeading)});
   std::vector<Event> events;

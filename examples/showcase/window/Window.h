@@ -38,6 +38,14 @@ struct Grid {
   bool isDescending = false;
 };
 
+/// What the buttons of message boxes say.
+struct BoxWords {
+  tessaly::String ok;
+  tessaly::String cancel;
+  tessaly::String yes;
+  tessaly::String no;
+};
+
 /// The side of a button on the tool bar, and the tool bar's colour, in pixels and as the control has colours.
 inline constexpr tessaly::Long kButtonSide = 42;
 inline constexpr tessaly::OLE_COLOR kToolBarColour = 0xF7F5F4;
@@ -69,6 +77,9 @@ struct Window {
 
   /// Which side all begins at; the left at first.
   virtual void setRightToLeft(bool isRightToLeft) = 0;
+
+  /// What the buttons of message boxes say, where the platform lets a program have a say in it.
+  virtual void setBoxWords(const BoxWords& words) = 0;
 
   /// The menus of the bar, in the place of those that were there.
   virtual void setMenu(const std::vector<MenuItem>& menus) = 0;

@@ -33,13 +33,12 @@ int complain(const String& fault) {
   return kFailure;
 }
 
-int usage(const String& fault) {
+void tellUsage() {
   printLine(u"showcase-window [--language NUMBER] [--picture FILE.png]");
   printLine(
       u"  opens the window, in the user's language or another one; with --picture it needs no display:");
   printLine(
       u"  it clicks by itself, tells what happens, and writes the window, a dialog and help as pictures");
-  return complain(fault);
 }
 
 String timeOfDay() {
@@ -137,8 +136,9 @@ int runAs(const Options& options, int argc, char** argv) {
 
 int main(int argc, char** argv) try {
   const Options options = showcase::optionsOf(examples::arguments(argc, argv));
-  if (!options.fault.empty()) return usage(options.fault);
-  return runAs(options, argc, argv);
+  if (options.isHelpWanted || !options.fault.empty()) tellUsage();
+  if (!options.fault.empty()) return complain(options.fault);
+  return options.isHelpWanted ? 0 : runAs(options, argc, argv);
 } catch (const NotWritten& fault) {
   return complain(u"Can't write " + fault.file);
 } catch (const tessaly::RuntimeError& error) {

@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStatusBar>
-#include <QStyleFactory>
 
 #include "examples/showcase/window/Window.h"
 
@@ -26,18 +26,37 @@ void fill(QWidget& widget, const QColor& colour) {
   widget.setAutoFillBackground(true);
 }
 
-/// Some air between the rows and around the headings.
+/// Some air between the rows and around the headings, whose arrow stands above the text, and a quiet scroll
+/// bar.
 constexpr const char* kListLook =
-    "QTreeView { border: 0; padding: 0 8px; background: #ffffff; }"
+    "QTreeView { border: 0; padding: 0 8px; background: #ffffff; outline: 0; show-decoration-selected: 1; }"
     "QTreeView::item { padding: 3px 5px; border: 0; }"
     "QTreeView::item:selected { background: #d8e8f8; color: #222b36; }"
+    "QHeaderView::up-arrow, QHeaderView::down-arrow { subcontrol-origin: border; subcontrol-position: top "
+    "center;"
+    " width: 9px; height: 9px; }"
+    "QScrollBar:vertical { width: 10px; background: #ffffff; }"
+    "QScrollBar::handle:vertical { background: #c9d0d9; border-radius: 4px; margin: 1px; min-height: 24px; }"
+    "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
     "QHeaderView::section { background: #ffffff; color: #5b6a7d; padding: 5px 8px; border: 0;"
     " border-bottom: 1px solid #d3d8df; }";
+
+/// Where letters are joined, a line under one of them would cut it off from the others.
+class Look : public QProxyStyle {
+ public:
+  Look() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    if (hint == SH_UnderlineShortcut && QApplication::isRightToLeft()) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+  }
+};
 
 }  // namespace
 
 void setLook() {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new Look);
   QPalette palette(ground());
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(role, kInk);

@@ -28,10 +28,10 @@ using tessaly::qt::toQString;
 
 namespace {
 
-constexpr QSize kSize(820, 640);
+constexpr QSize kSize(820, 660);
 constexpr int kColumnWidth = 140;
-constexpr int kGridHeight = 400;
-constexpr int kEventsHeight = 130;
+constexpr int kGridHeight = 430;
+constexpr int kEventsHeight = 120;
 
 void sendKey(QWidget& widget, QEvent::Type type) {
   QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier);
@@ -112,8 +112,9 @@ void QtWindow::setGrid(const Grid& grid) {
   setHeadings(*grid_, headings);
   setGridRows(grid);
   grid_->header()->setSortIndicatorShown(grid.sortedColumn >= 0);
+  // Qt's arrow points down where values go up; most users know it the other way round.
   grid_->header()->setSortIndicator(grid.sortedColumn,
-                                    grid.isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+                                    grid.isDescending ? Qt::AscendingOrder : Qt::DescendingOrder);
   for (int column = 0; column < headings.size(); ++column) {
     if (grid.headings[static_cast<std::size_t>(column)].isOfNumbers) {
       grid_->headerItem()->setTextAlignment(column, Qt::AlignTrailing | Qt::AlignVCenter);

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "examples/showcase/window/Window.h"
+#include "examples/showcase/window/qt/Words.h"
 
 namespace tessaly::qt {
 class PictureButton;
@@ -23,6 +24,7 @@ class QtWindow final : public QMainWindow, public Window {
   tessaly::platform::WindowHandle handle() override;
   void setTitle(std::u16string_view title) override;
   void setRightToLeft(bool isRightToLeft) override;
+  void setBoxWords(const BoxWords& words) override { words_.speak(words); }
   void setMenu(const std::vector<MenuItem>& menus) override;
   tessaly::transparentBitmap& addButton() override;
   void addGap() override;
@@ -62,6 +64,7 @@ class QtWindow final : public QMainWindow, public Window {
   QTreeWidget* events_;
   std::array<QLabel*, 3> status_{};
   DialogVisit visit_;
+  Words words_;
 };
 
 }  // namespace showcase

@@ -22,6 +22,7 @@ class Win32Window final : public Window {
   tessaly::platform::WindowHandle handle() override;
   void setTitle(std::u16string_view title) override;
   void setRightToLeft(bool isRightToLeft) override;
+  void setBoxWords(const BoxWords& /*words*/) override {}  // the system's boxes speak the system's language
   void setMenu(const std::vector<MenuItem>& menus) override;
   tessaly::transparentBitmap& addButton() override;
   void addGap() override;
