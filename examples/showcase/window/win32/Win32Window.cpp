@@ -223,7 +223,7 @@ Long Win32Window::selectedRow() { return showcase::selectedRow(grid_); }
 
 void Win32Window::setGridFont(std::u16string_view name, Long points) {
   tessaly::win32::OwnedFont font(fontOf(toWide(name), points));
-  setFont(grid_, font.get());
+  setListFont(grid_, font.get());
   gridFont_ = std::move(font);
 }
 
