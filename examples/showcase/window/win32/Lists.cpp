@@ -10,8 +10,7 @@
 namespace showcase {
 namespace {
 
-constexpr int kLeastRowHeight = 22;
-constexpr int kAroundLine = 6;
+constexpr int kRowHeight = 22;
 constexpr int kLeastWidth = 80;
 
 int countOf(HWND list) { return static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0)); }
@@ -29,23 +28,6 @@ void showSorting(HWND list, int column, int sorted) {
   SendMessageW(headerOf(list), HDM_SETITEMW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&item));
 }
 
-/// A row is as high as its picture, here an empty one. The list lets go of the one that it has at its end.
-void setRowHeight(HWND list, int height) {
-  const HIMAGELIST picture = ImageList_Create(1, height, ILC_COLOR, 0, 1);
-  const LRESULT former = SendMessageW(list, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(picture));
-  if (former != 0) ImageList_Destroy(reinterpret_cast<HIMAGELIST>(former));
-}
-
-int heightOfLine(HWND window, HFONT font) {
-  const HDC context = GetDC(window);
-  const HGDIOBJ before = SelectObject(context, font);
-  TEXTMETRICW measures{};
-  GetTextMetricsW(context, &measures);
-  SelectObject(context, before);
-  ReleaseDC(window, context);
-  return static_cast<int>(measures.tmHeight);
-}
-
 void setCell(HWND list, int row, int column, std::wstring text) {
   LVITEMW item{};
   item.iSubItem = column;
@@ -59,13 +41,10 @@ HWND makeList(HWND parent) {
   const HWND list =
       makeChild(parent, WC_LISTVIEWW, WS_TABSTOP | LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS);
   SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-  setRowHeight(list, kLeastRowHeight);
+  // A row is as high as its picture, here an empty one; the list lets go of it.
+  SendMessageW(list, LVM_SETIMAGELIST, LVSIL_SMALL,
+               reinterpret_cast<LPARAM>(ImageList_Create(1, kRowHeight, ILC_COLOR, 0, 1)));
   return list;
-}
-
-void setListFont(HWND list, HFONT font) {
-  setRowHeight(list, std::max(heightOfLine(list, font) + kAroundLine, kLeastRowHeight));
-  setFont(list, font);
 }
 
 void setHeadings(HWND list, const std::vector<ListHeading>& headings) {

@@ -22,9 +22,6 @@ struct ListHeading {
 /// A list as a child of a window.
 HWND makeList(HWND parent);
 
-/// Writes a list in a font, which must outlive that.
-void setListFont(HWND list, HFONT font);
-
 /// Sets the headings, which make the columns where they are missing; columns keep their widths.
 void setHeadings(HWND list, const std::vector<ListHeading>& headings);
 
