@@ -57,6 +57,11 @@ bool ChildWindow::isPressed() const { return keyPress_.isHeld() || ::GetCapture(
 
 bool ChildWindow::isReachedByKeys() const { return (GetWindowLongW(window_, GWL_STYLE) & WS_TABSTOP) != 0; }
 
+bool ChildWindow::isReachedByInput() const {
+  return isEnabled() && IsWindowEnabled(window_) != FALSE &&
+         IsWindowEnabled(GetAncestor(window_, GA_ROOT)) != FALSE;
+}
+
 bool ChildWindow::hasNameOfItsOwn() const {
   return control_ != nullptr && kind_->name != nullptr && GetWindowTextLengthW(window_) == 0;
 }

@@ -56,6 +56,9 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   bool isPressed() const;
   bool isReachedByKeys() const;
 
+  /// Whether the user could click it: it can be used, and no dialog stands before its form.
+  bool isReachedByInput() const;
+
   /// Whether the control names itself, since the window has no text; then its name, null for want of memory.
   bool hasNameOfItsOwn() const;
   BSTR nameOfControl() const noexcept;

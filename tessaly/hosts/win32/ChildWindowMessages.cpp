@@ -214,7 +214,9 @@ void ChildWindow::takeDensity() {
   repaintLater();
 }
 
+// Not every program that knows of dense screens is told that one of its windows has come to another.
 void ChildWindow::paintWindow() {
+  if (Density::of(window_) != density_) takeDensity();
   raise([](UserControl& control) { control.prepareToShow(); });
   if (window_ == nullptr) return;
   const Drawing drawing(window_);

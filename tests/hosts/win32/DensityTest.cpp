@@ -155,6 +155,21 @@ TEST_F(DenseScreenTest, AFormThatComesToAnotherScreenTellsItsControls) {
   EXPECT_EQ(place.container().size(), (PixelSize{40, 30}));
 }
 
+TEST_F(DenseScreenTest, AFormThatIsPaintedOnAnotherScreenBeforeItIsToldIsFoundOut) {
+  const ControlOfTestsWindow place;
+  put(144);
+  InvalidateRect(place.window(), nullptr, FALSE);
+  EXPECT_EQ(eventsOf(place.control(), [&] { UpdateWindow(place.window()); }),
+            std::vector<std::string>{"Resize"});
+  EXPECT_EQ(place.container().size(), (PixelSize{26, 20}));
+  EXPECT_FALSE(GetUpdateRect(place.window(), nullptr, FALSE));
+  put(96);
+  place.control().on["Resize"] = [&] { DestroyWindow(place.window()); };
+  InvalidateRect(place.window(), nullptr, FALSE);
+  UpdateWindow(place.window());
+  EXPECT_FALSE(IsWindow(place.window()));
+}
+
 TEST_F(DenseScreenTest, AControlThatGoesWhereItsFormComesToAnotherScreenIsNoHarm) {
   const ControlOfTestsWindow place;
   place.control().surface().MousePointer(99);
