@@ -113,10 +113,12 @@ void drawLabel(HDC target, const Label& label, const UserControl& control, const
   DrawTextW(target, caption.data(), static_cast<int>(caption.size()), &area, formatOf(label));
 }
 
-void drawFocus(HDC target, const Look& look) {
+/// Within a border, but around a text, which begins at the edge.
+void drawFocus(HDC target, const UserControl& control, const Look& look) {
   SetTextColor(target, RGB(0, 0, 0));
   SetBkColor(target, RGB(255, 255, 255));
-  const int inset = static_cast<int>(std::lround(kFocusInset * look.density.ratio()));
+  const double within = control.labels().empty() ? kFocusInset : 0;
+  const int inset = static_cast<int>(std::lround(within * look.density.ratio()));
   const RECT area{inset, inset, look.inside.width - inset, look.inside.height - inset};
   DrawFocusRect(target, &area);
 }
@@ -154,7 +156,7 @@ void paint(HDC target, UserControl& control, const Look& look) {
   if (sheet.pixels().pixels == nullptr) return;
   drawSurface(sheet, control, look);
   for (const Label* label : control.labels()) drawLabel(sheet.context(), *label, control, look.density);
-  if (look.hasFocus) drawFocus(sheet.context(), look);
+  if (look.hasFocus) drawFocus(sheet.context(), control, look);
   sheet.show(target);
 }
 
