@@ -65,6 +65,7 @@ class AccessibleControl final : public IAccessible {
   HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT child) override {
     const auto window = window_.lock();
     if (!isSelf(child) || window == nullptr) return standard_->accDoDefaultAction(child);
+    if (!window->isReachedByInput()) return E_FAIL;
     return PostMessageW(window->window(), BM_CLICK, 0, 0) != FALSE ? S_OK : E_FAIL;
   }
 

@@ -2,6 +2,7 @@
 
 #include "tessaly/hosts/win32/ChildWindow.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "tessaly/base/Text.h"
@@ -56,6 +57,11 @@ bool ChildWindow::isPressed() const { return keyPress_.isHeld() || ::GetCapture(
 
 bool ChildWindow::isReachedByKeys() const { return (GetWindowLongW(window_, GWL_STYLE) & WS_TABSTOP) != 0; }
 
+bool ChildWindow::isReachedByInput() const {
+  return isEnabled() && IsWindowEnabled(window_) != FALSE &&
+         IsWindowEnabled(GetAncestor(window_, GA_ROOT)) != FALSE;
+}
+
 bool ChildWindow::hasNameOfItsOwn() const {
   return control_ != nullptr && kind_->name != nullptr && GetWindowTextLengthW(window_) == 0;
 }
@@ -74,19 +80,35 @@ void ChildWindow::setSize(PixelSize size) {
   const auto held = shared_from_this();
   const PixelSize before = size_;
   const PixelSize frame = frameOf(window_);
+  const PixelSize wanted = density_.toWindow(size);
   const bool outermost = !std::exchange(assignsSize_, true);
-  SetWindowPos(window_, nullptr, 0, 0, size.width + frame.width, size.height + frame.height,
+  SetWindowPos(window_, nullptr, 0, 0, wanted.width + frame.width, wanted.height + frame.height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
   if (outermost) assignsSize_ = false;
   if (size_ != before) userControl_->resized();
 }
 
+PixelSize ChildWindow::inside() const {
+  RECT inner{};
+  GetClientRect(window_, &inner);
+  return {static_cast<Long>(inner.right), static_cast<Long>(inner.bottom)};
+}
+
+void ChildWindow::measure() {
+  density_ = Density::of(window_);
+  const PixelSize room = density_.toControl(inside());
+  size_ = {std::min(room.width, kLongestSide), std::min(room.height, kLongestSide)};
+}
+
 bool ChildWindow::isVisible() { return (GetWindowLongA(window_, GWL_STYLE) & WS_VISIBLE) != 0; }
 
+// Points of the screen are Windows's own; those that a control sees of itself are in its pixels.
 PixelPoint ChildWindow::GetCursorPos() {
   POINT point{};
-  if (const auto key = keyPress_.pointer()) {
-    point = {key->x, key->y};
+  const auto press = keyPress_.pointer() ? keyPress_.pointer() : mousePress_.pointer();
+  if (press) {
+    const PixelPoint place = density_.toWindow(*press);
+    point = {place.x, place.y};
     ClientToScreen(window_, &point);
     return pointOf(point);
   }
@@ -96,7 +118,7 @@ PixelPoint ChildWindow::GetCursorPos() {
 PixelPoint ChildWindow::ScreenToClient(PixelPoint point) {
   POINT result{point.x, point.y};
   ::ScreenToClient(window_, &result);
-  return pointOf(result);
+  return density_.toControl(pointOf(result));
 }
 
 // A key leaves the mouse alone.
@@ -118,10 +140,16 @@ void ChildWindow::setTimer(Timer& timer, Long milliseconds) {
   }
 }
 
-// The cursor that is shown goes only when another one is.
 void ChildWindow::setCursor(std::int16_t pointer, const MouseIcon& icon) {
   pointer_ = pointer;
-  const OwnedCursor before = std::exchange(icon_, pointer == kIconPointer ? cursorOf(icon) : OwnedCursor());
+  mouseIcon_ = icon;
+  makeCursor();
+}
+
+// The cursor that is shown goes only when another one is.
+void ChildWindow::makeCursor() {
+  const bool isIcon = pointer_ == kIconPointer;
+  const OwnedCursor before = std::exchange(icon_, isIcon ? cursorOf(mouseIcon_, density_) : OwnedCursor());
   if (window_ != nullptr && windowUnderPointer() == window_) chooseCursorAnew(window_);
 }
 

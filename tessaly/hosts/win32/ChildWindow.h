@@ -15,14 +15,19 @@
 #include "tessaly/hosts/win32/Beginning.h"
 #include "tessaly/hosts/win32/ControlKind.h"
 #include "tessaly/hosts/win32/Controls.h"
+#include "tessaly/hosts/win32/Density.h"
 #include "tessaly/hosts/win32/Handles.h"
+#include "tessaly/hosts/win32/MousePress.h"
 #include "tessaly/hosts/win32/Timers.h"
 #include "tessaly/hosts/win32/ToolTip.h"
 
 namespace tessaly::win32 {
 
 /// The place of a control in a child window. It belongs to the window and holds the control; both stay until
-/// the message ends in which the window has gone. The window's thread uses it.
+/// the message ends in which the window has gone: `receive` holds them, and any other caller must where what
+/// it calls may reach the host. Then there is no window, `control` stands, and nothing that is asked does
+/// anything. The window's thread uses it. Whatever the window's messages raise goes to `onError`; the calls
+/// raise to their caller.
 class ChildWindow final : public Container, public std::enable_shared_from_this<ChildWindow> {
  public:
   ChildWindow(const ControlKind& kind, HWND window);
@@ -32,12 +37,17 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   static LRESULT receive(const ControlKind& kind, HWND window, UINT message, WPARAM wParam,
                          LPARAM lParam) noexcept;
 
-  /// That of a window, or none for a window that is no control of this process.
+  /// That of a window, which may destroy it in any call; none for a window that is no control of this
+  /// process.
   static ChildWindow* of(HWND window);
 
   const ControlKind& kind() const { return *kind_; }
+
+  /// None as long as it is being made.
   void* control() const { return control_.get(); }
   Hosting& hosting() { return hosting_; }
+
+  /// Raises what the control does.
   PropertyBag save();
 
   // What assistive technology asks for.
@@ -45,6 +55,9 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   bool isEnabled() const { return control_ != nullptr && kind_->isEnabled(control_.get()); }
   bool isPressed() const;
   bool isReachedByKeys() const;
+
+  /// Whether the user could click it: it can be used, and no dialog stands before its form.
+  bool isReachedByInput() const;
 
   /// Whether the control names itself, since the window has no text; then its name, null for want of memory.
   bool hasNameOfItsOwn() const;
@@ -80,16 +93,21 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   std::optional<LRESULT> handle(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> handleMouse(UINT message, WPARAM keys, LPARAM place);
   std::optional<LRESULT> handleKeys(UINT message, WPARAM wParam, LPARAM lParam);
-  std::optional<LRESULT> handleFocus(UINT message, LPARAM lParam);
+  std::optional<LRESULT> handleFocus(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> handleDrawing(UINT message, WPARAM wParam);
+  void makeCursor();
   bool showCursor() const;
   void endCaptureWhereHidden(const WINDOWPOS& change);
-  void takeSize(PixelSize size);
+  PixelSize inside() const;
+  void measure();
+  void takeSize();
+  void takeDensity();
   void paintWindow();
   void paintOn(HDC target);
   void click();
   void pressKey();
   void releaseKey(PixelPoint point);
+  void giveUpPress();
   void tell(DWORD change) const;
   void tellState() const { tell(EVENT_OBJECT_STATECHANGE); }
   PixelPoint middle() const { return {size_.width / 2, size_.height / 2}; }
@@ -102,14 +120,17 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
 
   const ControlKind* kind_;
   HWND window_;
+  Density density_;
   PixelSize size_;
   bool assignsSize_ = false;
   Hosting hosting_;
   Timers timers_;
   ToolTip toolTip_;
   std::int16_t pointer_ = 0;
+  MouseIcon mouseIcon_;
   OwnedCursor icon_;
   KeyPress keyPress_;
+  MousePress mousePress_;
   UserControl* userControl_ = nullptr;
   std::shared_ptr<void> control_;
 

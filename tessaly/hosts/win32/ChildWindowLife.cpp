@@ -69,9 +69,7 @@ LRESULT ChildWindow::begin(const ControlKind& kind, HWND window) noexcept {
 }
 
 void ChildWindow::makeControl(const Beginning& beginning) {
-  RECT inner{};
-  GetClientRect(window_, &inner);
-  size_ = {static_cast<Long>(inner.right), static_cast<Long>(inner.bottom)};
+  measure();
   control_ = kind_->make(*this);
   if (beginning.bag() != nullptr) {
     userControl_->restore(*beginning.bag());

@@ -16,7 +16,8 @@ constexpr MouseState kMiddleButton = 4;
 constexpr MouseState kShift = 1;
 constexpr MouseState kControl = 2;
 constexpr MouseState kAlt = 4;
-constexpr PixelPoint kOutside{-1, -1};
+/// WM_DPICHANGED_AFTERPARENT, which headers for systems before Windows 10 lack.
+constexpr UINT kDensityChanged = 0x02E3;
 constexpr LPARAM kWasDownBefore = LPARAM{1} << 30;
 
 MouseState either(bool first, MouseState one, bool second, MouseState two, bool third, MouseState three) {
@@ -65,7 +66,10 @@ class Drawing {
 std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      takeSize({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      takeSize();
+      return 0;
+    case kDensityChanged:
+      takeDensity();
       return 0;
     case WM_WINDOWPOSCHANGED:
       endCaptureWhereHidden(*reinterpret_cast<const WINDOWPOS*>(lParam));
@@ -92,8 +96,10 @@ std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM l
       return handleKeys(message, wParam, lParam);
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
+    case WM_ENABLE:
+    case WM_CANCELMODE:
     case WM_CAPTURECHANGED:
-      return handleFocus(message, lParam);
+      return handleFocus(message, wParam, lParam);
     default:
       return handleMouse(message, wParam, lParam);
   }
@@ -103,7 +109,8 @@ std::optional<LRESULT> ChildWindow::handleMouse(UINT message, WPARAM keys, LPARA
   if (message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return std::nullopt;
   toolTip_.relay(window_, message, keys, place);
   if (keyPress_.isHeld()) return 0;
-  const PixelPoint point{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+  const PixelPoint point = density_.toControl(PixelPoint{GET_X_LPARAM(place), GET_Y_LPARAM(place)});
+  const auto bring = [this](const auto& event) { raise(event); };
   switch (message) {
     case WM_MOUSEMOVE:
       raise([&](UserControl& control) { control.mouseMove(buttonsOf(keys), shiftOf(keys), point); });
@@ -111,12 +118,12 @@ std::optional<LRESULT> ChildWindow::handleMouse(UINT message, WPARAM keys, LPARA
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
-      raise([&](UserControl& control) { control.mouseDown(buttonOf(message), shiftOf(keys), point); });
+      mousePress_.begin(buttonOf(message), shiftOf(keys), point, bring);
       break;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
-      raise([&](UserControl& control) { control.mouseUp(buttonOf(message), shiftOf(keys), point); });
+      mousePress_.end(buttonOf(message), shiftOf(keys), point, bring);
       break;
     default:
       return std::nullopt;
@@ -147,13 +154,26 @@ std::optional<LRESULT> ChildWindow::handleKeys(UINT message, WPARAM wParam, LPAR
   return 0;
 }
 
-// A key that is released elsewhere comes to nothing, as a press does that is released outside.
-std::optional<LRESULT> ChildWindow::handleFocus(UINT message, LPARAM lParam) {
-  if (message == WM_CAPTURECHANGED) {
-    if (reinterpret_cast<HWND>(lParam) != window_) raise([](UserControl& control) { control.captureLost(); });
-    return 0;
+// A key or a button that is released elsewhere comes to nothing, as a press does that is released outside.
+std::optional<LRESULT> ChildWindow::handleFocus(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_CAPTURECHANGED:
+      if (reinterpret_cast<HWND>(lParam) == window_) return 0;
+      mousePress_.lose([this](const auto& event) { raise(event); });
+      tellState();
+      return 0;
+    case WM_ENABLE:
+      if (wParam == FALSE) giveUpPress();
+      return std::nullopt;
+    case WM_CANCELMODE:
+      giveUpPress();
+      return std::nullopt;
+    case WM_KILLFOCUS:
+      releaseKey(MousePress::kOutside);
+      break;
+    default:
+      break;
   }
-  if (message == WM_KILLFOCUS) releaseKey(kOutside);
   repaintLater();
   return 0;
 }
@@ -181,13 +201,22 @@ void ChildWindow::endCaptureWhereHidden(const WINDOWPOS& change) {
 }
 
 // The size that the control itself assigns is brought to it by the assignment.
-void ChildWindow::takeSize(PixelSize size) {
-  if (size == size_) return;
-  size_ = size;
-  if (!assignsSize_) raise([](UserControl& control) { control.resized(); });
+void ChildWindow::takeSize() {
+  const PixelSize before = size_;
+  measure();
+  if (size_ != before && !assignsSize_) raise([](UserControl& control) { control.resized(); });
 }
 
+// Its form has come to another screen, and has given it the size that it is to have there.
+void ChildWindow::takeDensity() {
+  takeSize();
+  raise([this](UserControl&) { makeCursor(); });
+  repaintLater();
+}
+
+// Not every program that knows of dense screens is told that one of its windows has come to another.
 void ChildWindow::paintWindow() {
+  if (Density::of(window_) != density_) takeDensity();
   raise([](UserControl& control) { control.prepareToShow(); });
   if (window_ == nullptr) return;
   const Drawing drawing(window_);
@@ -196,7 +225,7 @@ void ChildWindow::paintWindow() {
 
 void ChildWindow::paintOn(HDC target) {
   raise([&](UserControl& control) {
-    paint(target, control, size_, isReachedByKeys() && GetFocus() == window_);
+    paint(target, control, {size_, inside(), density_, isReachedByKeys() && GetFocus() == window_});
   });
 }
 
@@ -215,6 +244,11 @@ void ChildWindow::pressKey() {
 void ChildWindow::releaseKey(PixelPoint point) {
   keyPress_.end(point, [this](const auto& event) { raise(event); });
   tellState();
+}
+
+void ChildWindow::giveUpPress() {
+  releaseKey(MousePress::kOutside);
+  setCapture(false);
 }
 
 void ChildWindow::tell(DWORD change) const {

@@ -41,6 +41,14 @@ class Sheet {
 
   void show(HDC target) const { BitBlt(target, 0, 0, size_.width, size_.height, context(), 0, 0, SRCCOPY); }
 
+  void showScaled(HDC target, const Density& density) const {
+    const PixelSize scaled = density.toWindow(size_);
+    SetStretchBltMode(target, density.isWhole() ? COLORONCOLOR : HALFTONE);
+    SetBrushOrgEx(target, 0, 0, nullptr);
+    StretchBlt(target, 0, 0, scaled.width, scaled.height, context(), 0, 0, size_.width, size_.height,
+               SRCCOPY);
+  }
+
  private:
   static HBITMAP make(PixelSize size, std::uint32_t*& pixels) {
     const BITMAPINFO info = infoOf(size.width, size.height);
@@ -68,21 +76,13 @@ void fill(const platform::PixelView& view, std::uint32_t pixel) {
   std::fill_n(view.pixels, count, pixel);
 }
 
-void copy(const platform::PixelView& from, const platform::PixelView& to) {
-  const auto width = static_cast<std::size_t>(std::min(from.width, to.width));
-  for (Long row = 0; row < std::min(from.height, to.height); ++row) {
-    std::copy_n(from.pixels + static_cast<std::ptrdiff_t>(row) * from.width, width,
-                to.pixels + static_cast<std::ptrdiff_t>(row) * to.width);
-  }
-}
-
 COLORREF colourOf(OLE_COLOR colour, const UserControl& control) {
   return static_cast<COLORREF>(shownColour(colour, control.container())) & 0xFFFFFFU;
 }
 
-OwnedFont fontOf(const Font& font, HDC target) {
-  const int height =
-      static_cast<int>(std::lround(font.points * GetDeviceCaps(target, LOGPIXELSY) / kPointsPerInch));
+OwnedFont fontOf(const Font& font, const Density& density) {
+  const double points = font.points * density.ratio();
+  const int height = static_cast<int>(std::lround(points * Density::kUsual / kPointsPerInch));
   return OwnedFont(CreateFontW(-height, 0, 0, 0, font.weight, FALSE, font.isUnderlined ? TRUE : FALSE, FALSE,
                                DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
                                DEFAULT_PITCH | FF_DONTCARE, toWide(font.name).c_str()));
@@ -94,18 +94,18 @@ UINT formatOf(const Label& label) {
   return side | DT_WORDBREAK | DT_NOPREFIX;
 }
 
-RECT areaOf(const Label& label, const UserControl& control) {
-  const double unit = control.ScaleMode() == Scale::kTwips ? Scale::kTwipsPerPixel : 1;
+RECT areaOf(const Label& label, const UserControl& control, const Density& density) {
+  const double unit = control.scale().fromPixels(1) / density.ratio();
   const auto pixels = [unit](double measure) { return static_cast<LONG>(std::lround(measure / unit)); };
   return {pixels(label.Left()), pixels(label.Top()), pixels(label.Left() + label.Width()),
           pixels(label.Top() + label.Height())};
 }
 
-void drawLabel(HDC target, const Label& label, const UserControl& control) {
-  RECT area = areaOf(label, control);
+void drawLabel(HDC target, const Label& label, const UserControl& control, const Density& density) {
+  RECT area = areaOf(label, control, density);
   const OwnedBrush background(CreateSolidBrush(colourOf(label.BackColor(), control)));
   FillRect(target, &area, background.get());
-  const OwnedFont font = fontOf(label.font(), target);
+  const OwnedFont font = fontOf(label.font(), density);
   const Selected selected(target, font.get());
   SetTextColor(target, colourOf(label.ForeColor(), control));
   SetBkMode(target, TRANSPARENT);
@@ -113,10 +113,13 @@ void drawLabel(HDC target, const Label& label, const UserControl& control) {
   DrawTextW(target, caption.data(), static_cast<int>(caption.size()), &area, formatOf(label));
 }
 
-void drawFocus(HDC target, PixelSize size) {
+/// Within a border, but around a text, which begins at the edge.
+void drawFocus(HDC target, const UserControl& control, const Look& look) {
   SetTextColor(target, RGB(0, 0, 0));
   SetBkColor(target, RGB(255, 255, 255));
-  const RECT area{kFocusInset, kFocusInset, size.width - kFocusInset, size.height - kFocusInset};
+  const double within = control.labels().empty() ? kFocusInset : 0;
+  const int inset = static_cast<int>(std::lround(within * look.density.ratio()));
+  const RECT area{inset, inset, look.inside.width - inset, look.inside.height - inset};
   DrawFocusRect(target, &area);
 }
 
@@ -125,26 +128,35 @@ bool hasVisibleLine(const UserControl& control) {
                      [](const Line* line) { return line->Visible() != 0; });
 }
 
-bool isSurfaceAlone(const UserControl& control, PixelSize size, const platform::PixelView& surface) {
-  return surface.width == size.width && surface.height == size.height && control.labels().empty() &&
-         !hasVisibleLine(control);
+/// The surface as it is covers the window, and there is nothing else to show.
+bool isSurfaceAlone(const UserControl& control, const Look& look) {
+  const platform::PixelView surface = control.surface();
+  return PixelSize{surface.width, surface.height} == look.inside && look.size == look.inside &&
+         control.labels().empty() && !hasVisibleLine(control) && !look.hasFocus;
+}
+
+/// The surface with its lines, and what it does not reach of a window in which there is room for a part of a
+/// pixel more.
+void drawSurface(const Sheet& sheet, UserControl& control, const Look& look) {
+  if (look.size == look.inside) return control.drawOn(sheet.pixels());
+  fill(sheet.pixels(), pixelOf(shownColour(control.BackColor(), control.container())));
+  if (look.size.width < 1 || look.size.height < 1) return;
+  const Sheet own(look.size);
+  if (own.pixels().pixels == nullptr) return;
+  control.drawOn(own.pixels());
+  own.showScaled(sheet.context(), look.density);
 }
 
 }  // namespace
 
-void paint(HDC target, UserControl& control, PixelSize size, bool hasFocus) {
-  if (size.width < 1 || size.height < 1) return;
-  const platform::PixelView surface = control.surface();
-  if (isSurfaceAlone(control, size, surface) && !hasFocus) return showAlone(target, surface);
-  const Sheet sheet(size);
+void paint(HDC target, UserControl& control, const Look& look) {
+  if (look.inside.width < 1 || look.inside.height < 1) return;
+  if (isSurfaceAlone(control, look)) return showAlone(target, control.surface());
+  const Sheet sheet(look.inside);
   if (sheet.pixels().pixels == nullptr) return;
-  fill(sheet.pixels(), pixelOf(shownColour(control.BackColor(), control.container())));
-  copy(surface, sheet.pixels());
-  for (const Line* line : control.lines()) {
-    if (line->Visible()) line->drawOn(sheet.pixels());
-  }
-  for (const Label* label : control.labels()) drawLabel(sheet.context(), *label, control);
-  if (hasFocus) drawFocus(sheet.context(), size);
+  drawSurface(sheet, control, look);
+  for (const Label* label : control.labels()) drawLabel(sheet.context(), *label, control, look.density);
+  if (look.hasFocus) drawFocus(sheet.context(), control, look);
   sheet.show(target);
 }
 

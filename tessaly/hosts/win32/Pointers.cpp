@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace tessaly::win32 {
@@ -56,6 +57,20 @@ OwnedBitmap bitmapOf(const Picture& picture) {
   return bitmap;
 }
 
+/// As many pixels as the screen has for the picture's, each the nearest one of those.
+Picture scaled(const Picture& picture, const Density& density) {
+  const PixelSize size = density.toWindow(picture.size());
+  std::vector<std::uint32_t> pixels;
+  pixels.reserve(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
+  for (PixelPoint place; place.y < size.height; ++place.y) {
+    for (place.x = 0; place.x < size.width; ++place.x) {
+      const PixelPoint from = density.toControl(place);
+      pixels.push_back(picture.pixels()[static_cast<std::size_t>(from.y * picture.size().width + from.x)]);
+    }
+  }
+  return {size, std::move(pixels)};
+}
+
 class ScreenOfThread final : public Screen {
  public:
   using Screen::MousePointer;
@@ -78,13 +93,15 @@ HCURSOR systemCursor(std::int16_t pointer) {
   return LoadCursorW(nullptr, MAKEINTRESOURCEW(kSystemCursors[static_cast<std::size_t>(pointer - 1)]));
 }
 
-OwnedCursor cursorOf(const MouseIcon& icon) {
+OwnedCursor cursorOf(const MouseIcon& icon, const Density& density) {
   if (icon.picture == nullptr || icon.picture->isEmpty()) return nullptr;
-  const PixelSize size = icon.picture->size();
-  const OwnedBitmap colours = bitmapOf(*icon.picture);
-  const OwnedBitmap mask(CreateBitmap(size.width, size.height, 1, 1, maskOf(*icon.picture).data()));
-  ICONINFO description{FALSE, static_cast<DWORD>(icon.hotSpot.x), static_cast<DWORD>(icon.hotSpot.y),
-                       mask.get(), colours.get()};
+  const Picture picture = scaled(*icon.picture, density);
+  const PixelPoint hotSpot = density.toWindow(icon.hotSpot);
+  const OwnedBitmap colours = bitmapOf(picture);
+  const OwnedBitmap mask(
+      CreateBitmap(picture.size().width, picture.size().height, 1, 1, maskOf(picture).data()));
+  ICONINFO description{FALSE, static_cast<DWORD>(hotSpot.x), static_cast<DWORD>(hotSpot.y), mask.get(),
+                       colours.get()};
   return OwnedCursor(CreateIconIndirect(&description));
 }
 

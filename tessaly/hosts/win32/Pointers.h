@@ -4,6 +4,7 @@
 
 #include "tessaly/forms/Container.h"
 #include "tessaly/forms/Screen.h"
+#include "tessaly/hosts/win32/Density.h"
 #include "tessaly/hosts/win32/Handles.h"
 
 namespace tessaly::win32 {
@@ -12,8 +13,9 @@ namespace tessaly::win32 {
 /// any other.
 HCURSOR systemCursor(std::int16_t pointer);
 
-/// A cursor of an icon's picture and hot spot; none where the picture has no image, or Windows makes none.
-OwnedCursor cursorOf(const MouseIcon& icon);
+/// A cursor of an icon's picture and hot spot, as large as the screen is dense; none where the picture has no
+/// image, or Windows makes none.
+OwnedCursor cursorOf(const MouseIcon& icon, const Density& density);
 
 /// The window under the pointer, where it is one of this thread; or else none.
 HWND windowUnderPointer();

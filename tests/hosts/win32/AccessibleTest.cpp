@@ -91,6 +91,22 @@ TEST_F(AccessibleTest, ItsDefaultActionIsAClick) {
   EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(AccessibleTest, WhatTheUserCouldNotClickIsNotClicked) {
+  transparentBitmap& button = make(0);
+  ASSERT_NE(object_, nullptr);
+  int clicks = 0;
+  button.events.OnButtonClick = [&] { ++clicks; };
+  for (const HWND disabled : {form_.window(), form_.button()}) {
+    EnableWindow(disabled, FALSE);
+    EXPECT_NE(object_->accDoDefaultAction(self()), S_OK);
+    EnableWindow(disabled, TRUE);
+  }
+  button.enabled(False);
+  EXPECT_NE(object_->accDoDefaultAction(self()), S_OK);
+  pump();
+  EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(AccessibleTest, WhoAsksMayOutliveTheWindow) {
   make(0);
   ASSERT_NE(object_, nullptr);

@@ -116,6 +116,21 @@ TEST_F(ContainerTest, AWindowThatIsHiddenHasTheMouseNoLonger) {
   release();
 }
 
+// On screens to the left of the first one and above it, places are below 0.
+TEST_F(ContainerTest, PlacesBelowZeroAreToldAsSuch) {
+  const LPARAM place = MAKELPARAM(static_cast<WORD>(-5), static_cast<WORD>(-700));
+  EXPECT_EQ(eventsOf([&] { SendMessageW(window(), WM_MOUSEMOVE, MK_LBUTTON, place); }),
+            Events{"MouseMove 1 0 -5,-700"});
+  const PixelPoint origin = container().ScreenToClient({0, 0});
+  EXPECT_EQ(container().ScreenToClient({-2000, -1500}), (PixelPoint{origin.x - 2000, origin.y - 1500}));
+}
+
+TEST_F(ContainerTest, ALargerWindowThanAControlCanBeGivesItAllThatItCanTake) {
+  MoveWindow(window(), 0, 0, 40000, 30, FALSE);
+  EXPECT_GT(container().size().width, 40);
+  EXPECT_LE(container().size().width, 32767);
+}
+
 TEST_F(ContainerTest, ThePointerIsFoundWhereverItIs) {
   movePointer(window(), {5, 6});
   EXPECT_EQ(container().ScreenToClient(container().GetCursorPos()), (PixelPoint{5, 6}));

@@ -125,6 +125,52 @@ TEST_F(KeyboardTest, AKeyThatIsReleasedElsewhereComesToNothing) {
   EXPECT_EQ(clicks_, 0);
 }
 
+TEST_F(KeyboardTest, AKeyThatIsHeldWhileTheWindowIsDisabledComesToNothing) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  EnableWindow(window_, FALSE);
+  EXPECT_EQ(edge(), kNone);
+  EnableWindow(window_, TRUE);
+  SetFocus(window_);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 0);
+}
+
+// WM_ENABLE was passed over, so that a key was still held where the focus had gone before it came.
+TEST_F(KeyboardTest, TheWordThatTheWindowIsDisabledIsEnough) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  SendMessageW(window_, WM_ENABLE, TRUE, 0);
+  EXPECT_EQ(edge(), kSunken);
+  SendMessageW(window_, WM_ENABLE, FALSE, 0);
+  EXPECT_EQ(edge(), kNone);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 0);
+}
+
+TEST_F(KeyboardTest, AKeyThatIsHeldWhereAllPressesAreGivenUpComesToNothing) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  SendMessageW(window_, WM_CANCELMODE, 0, 0);
+  EXPECT_EQ(edge(), kNone);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 0);
+}
+
+// With Alt held Windows sends the release of a key as another message.
+TEST_F(KeyboardTest, AKeyThatIsReleasedWithAltHeldClicks) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  constexpr LPARAM kWithAlt = (LPARAM{1} << 29) | 1;
+  SendMessageW(window_, WM_SYSKEYUP, VK_RETURN, kWithAlt);
+  EXPECT_EQ(clicks_, 0);
+  SendMessageW(window_, WM_SYSKEYUP, VK_SPACE, kWithAlt);
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_NE(edge(), kSunken);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 1);
+}
+
 TEST_F(KeyboardTest, ADialogInTheClickOfTheKeysPressEndsThePress) {
   button_.automaticClick(True);
   button_.automaticClickFirstTiming(10);

@@ -229,23 +229,6 @@ TEST_F(PictureButtonInputTest, AModalDialogMayBeShownInAClick) {
   EXPECT_TRUE(waitFor(Border::None));
 }
 
-TEST_F(PictureButtonInputTest, ACaptureThatIsTakenAwayLeavesTheNextPressSound) {
-  std::vector<std::int16_t> downs;
-  button_.events.MouseDown = [&](std::int16_t& pressed, std::int16_t&, float&, float&) {
-    downs.push_back(pressed);
-  };
-  move(kInside);
-  press();
-  SetCapture(form_.window());
-  ReleaseCapture();
-  release();
-  press();
-  EXPECT_EQ(GetCapture(), form_.button());
-  release();
-  EXPECT_EQ(GetCapture(), nullptr);
-  EXPECT_EQ(downs, (std::vector<std::int16_t>{1, 1}));
-}
-
 TEST_F(PictureButtonInputTest, WhatAHandlerRaisesIsReportedAndEndsThere) {
   button_.events.OnButtonClick = [] { throw RuntimeError(RuntimeError::TypeMismatch); };
   button_.events.OnButtonSelected = [] { throw std::bad_alloc(); };

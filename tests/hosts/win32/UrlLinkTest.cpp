@@ -161,6 +161,41 @@ TEST_F(UrlLinkTest, MayBeDestroyedInItsEvent) {
   window_ = nullptr;
 }
 
+TEST_F(UrlLinkTest, MayBeDestroyedWithItsFormInAnEventByKey) {
+  make(WS_TABSTOP);
+  link().events.GoToURL = [&](String& URL, Boolean&) {
+    DestroyWindow(form_.window());
+    URL = u"https://other.example/";
+  };
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyUp(VK_SPACE);
+  EXPECT_FALSE(IsWindow(window_));
+  ASSERT_EQ(opened(), 1U);
+  EXPECT_EQ(shell_.opened().at(0).file, "https://other.example/");
+  EXPECT_EQ(win32::screenOfThread().MousePointer(), 0);
+  window_ = nullptr;
+}
+
+TEST_F(UrlLinkTest, MayBeDestroyedInAnEventThatIsCancelledOrFails) {
+  link().events.GoToURL = [&](String&, Boolean& cancel) {
+    DestroyWindow(window_);
+    cancel = True;
+  };
+  click();
+  EXPECT_EQ(opened(), 0U);
+  window_ = nullptr;
+  make(0);
+  link().events.GoToURL = [&](String&, Boolean&) {
+    DestroyWindow(window_);
+    throw RuntimeError(RuntimeError::Overflow);
+  };
+  click();
+  EXPECT_EQ(opened(), 0U);
+  EXPECT_EQ(form_.errors(), std::vector<Long>{RuntimeError::Overflow});
+  window_ = nullptr;
+}
+
 TEST_F(UrlLinkTest, MayBeDestroyedWhileTheShellOpensAndThePointerComesBack) {
   shell_.onOpen([&](const Shell::Opened&) { DestroyWindow(form_.window()); });
   click();

@@ -112,8 +112,11 @@ void DialogWindow::fill() {
   const int height = placeButtons(placeRows());
   centre(window_, kRowWidth + 2 * kEdge, height);
   writeFields();
-  SetFocus(hasEntry(dialog_) ? GetNextDlgTabItem(window_, nullptr, FALSE)
-                             : GetDlgItem(window_, dialog_.buttons[0].id));
+  // This selects what is written there, too.
+  SendMessageW(window_, WM_NEXTDLGCTL,
+               reinterpret_cast<WPARAM>(hasEntry(dialog_) ? GetNextDlgTabItem(window_, nullptr, FALSE)
+                                                          : GetDlgItem(window_, dialog_.buttons[0].id)),
+               TRUE);
   if (visit_) PostMessageW(window_, kVisit, 0, 0);
 }
 

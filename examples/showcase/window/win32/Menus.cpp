@@ -1,13 +1,11 @@
 #include "examples/showcase/window/win32/Menus.h"
 
-#include <algorithm>
-
 #include "tessaly/base/Text.h"
 
 namespace showcase {
 namespace {
 
-void addItem(HMENU menu, const MenuItem& item, UINT type = 0);
+void addItem(HMENU menu, const MenuItem& item);
 
 HMENU makeMenu(const std::vector<MenuItem>& items) {
   const HMENU menu = CreatePopupMenu();
@@ -15,13 +13,12 @@ HMENU makeMenu(const std::vector<MenuItem>& items) {
   return menu;
 }
 
-/// `type` has what it is beside a text or a line.
-void addItem(HMENU menu, const MenuItem& item, UINT type) {
+void addItem(HMENU menu, const MenuItem& item) {
   std::wstring text = tessaly::toWide(item.text);
   MENUITEMINFOW description{};
   description.cbSize = sizeof description;
   description.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_ID | MIIM_STRING | MIIM_SUBMENU;
-  description.fType = type | (text.empty() ? MFT_SEPARATOR : MFT_STRING);
+  description.fType = text.empty() ? MFT_SEPARATOR : MFT_STRING;
   description.fState = (item.isEnabled ? MFS_ENABLED : MFS_GRAYED) | (item.isChecked ? MFS_CHECKED : 0U);
   description.wID = static_cast<UINT>(item.id);
   description.dwTypeData = text.data();
@@ -32,14 +29,9 @@ void addItem(HMENU menu, const MenuItem& item, UINT type) {
 
 }  // namespace
 
-void setMenus(HWND window, const std::vector<MenuItem>& menus, bool isFromRight) {
-  // The window itself is not mirrored, and so neither is its bar.
-  std::vector<MenuItem> ordered = menus;
-  if (isFromRight) std::reverse(ordered.begin(), ordered.end());
+void setMenus(HWND window, const std::vector<MenuItem>& menus) {
   const HMENU bar = CreateMenu();
-  for (const MenuItem& menu : ordered) {
-    addItem(bar, menu, isFromRight ? MFT_RIGHTJUSTIFY : 0);
-  }
+  for (const MenuItem& menu : menus) addItem(bar, menu);
   const HMENU former = GetMenu(window);
   SetMenu(window, bar);
   DrawMenuBar(window);

@@ -8,9 +8,8 @@
 
 namespace showcase {
 
-/// Puts menus into a window's bar, in the place of those that were there; from the right, the first one
-/// stands there.
-void setMenus(HWND window, const std::vector<MenuItem>& menus, bool isFromRight);
+/// Puts menus into a window's bar, in the place of those that were there.
+void setMenus(HWND window, const std::vector<MenuItem>& menus);
 
 /// Whether the menus have an enabled item of an id.
 bool hasEnabledItem(HWND window, tessaly::Long id);

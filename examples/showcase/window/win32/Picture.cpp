@@ -15,20 +15,26 @@ using tessaly::RuntimeError;
 
 constexpr std::uint32_t kCoversWholly = 0xFF000000;
 
+/// A window's inside, which may be mirrored itself.
+RECT onScreen(HWND window) {
+  RECT place{};
+  GetClientRect(window, &place);
+  MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
 /// A context that is a window's own for a while: its corner is the origin, nothing is drawn outside of it,
 /// and it runs the way that the window does.
 class OwnContext {
  public:
   OwnContext(HDC context, HWND window, HWND top) : context_(context), saved_(SaveDC(context)) {
-    RECT inside{};
-    GetClientRect(window, &inside);
-    RECT place = inside;
-    MapWindowPoints(window, top, reinterpret_cast<POINT*>(&place), 2);
-    RECT all{};
-    GetClientRect(top, &all);
+    const RECT place = onScreen(window);
+    const RECT all = onScreen(top);
+    const RECT inside{0, 0, place.right - place.left, place.bottom - place.top};
     const bool isFromRight = (GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
     SetLayout(context, isFromRight ? LAYOUT_RTL : 0);
-    SetViewportOrgEx(context, isFromRight ? all.right - place.right : place.left, place.top, nullptr);
+    SetViewportOrgEx(context, isFromRight ? all.right - place.right : place.left - all.left,
+                     place.top - all.top, nullptr);
     IntersectClipRect(context, 0, 0, inside.right, inside.bottom);
     FillRect(context, &inside, GetSysColorBrush(COLOR_WINDOW));
   }

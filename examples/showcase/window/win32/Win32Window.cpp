@@ -54,8 +54,9 @@ Win32Window::Win32Window(int show) : font_(messageFont()), nextDistance_(kMargin
   RegisterClassExW(&description);
   RECT outer{0, 0, kWidth, kHeight};
   AdjustWindowRectEx(&outer, WS_OVERLAPPEDWINDOW, TRUE, 0);
-  CreateWindowExW(0, kWindowClass, L"", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT, CW_USEDEFAULT,
-                  outer.right - outer.left, outer.bottom - outer.top, nullptr, nullptr, program, this);
+  CreateWindowExW(WS_EX_NOINHERITLAYOUT, kWindowClass, L"", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                  CW_USEDEFAULT, CW_USEDEFAULT, outer.right - outer.left, outer.bottom - outer.top, nullptr,
+                  nullptr, program, this);
   if (window_ == nullptr) throw RuntimeError(RuntimeError::OutOfMemory);
   toolTips_ = makeToolTips(window_);
   grid_ = makeList(window_);
@@ -87,6 +88,12 @@ std::optional<LRESULT> Win32Window::answer(UINT message, WPARAM wParam, LPARAM l
   switch (message) {
     case WM_SIZE:
       layOut();
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE) keepFocus();
+      return std::nullopt;
+    case WM_SETFOCUS:
+      SetFocus(IsChild(window_, focus_) != FALSE ? focus_ : grid_);
       return 0;
     case WM_ERASEBKGND:
       paintToolBar(reinterpret_cast<HDC>(wParam));
@@ -123,9 +130,14 @@ void Win32Window::paintToolBar(HDC context) const {
   fill(context, {0, 0, width(), kToolBarHeight}, static_cast<COLORREF>(kToolBarColour));
   fill(context, {0, kToolBarHeight - 1, width(), kToolBarHeight}, kLineColour);
   for (const int line : lines_) {
-    const int x = isFromRight_ ? width() - line : line;
-    fill(context, {x, 2 * kMargin, x + 1, kToolBarHeight - 2 * kMargin}, kLineColour);
+    fill(context, {line, 2 * kMargin, line + 1, kToolBarHeight - 2 * kMargin}, kLineColour);
   }
+}
+
+/// While another window is used, it goes from the child that had it to the window itself.
+void Win32Window::keepFocus() {
+  const HWND focus = GetFocus();
+  if (IsChild(window_, focus) != FALSE) focus_ = focus;
 }
 
 int Win32Window::width() const {
@@ -136,8 +148,8 @@ int Win32Window::width() const {
 
 void Win32Window::layOut() {
   for (const Placed& button : buttons_) {
-    const int left = isFromRight_ ? width() - button.distance - kButtonSide : button.distance;
-    SetWindowPos(button.window, nullptr, left, kMargin, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(button.window, nullptr, button.distance, kMargin, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
   if (status_ == nullptr) return;
   SendMessageW(status_, WM_SIZE, 0, 0);
@@ -161,9 +173,13 @@ tessaly::platform::WindowHandle Win32Window::handle() {
 
 void Win32Window::setTitle(std::u16string_view title) { SetWindowTextW(window_, toWide(title).c_str()); }
 
-// The buttons' own surfaces stay as they are, so the window mirrors their places itself.
+// What stands in a mirrored window is placed from the right. The buttons' pictures stay as they are: no child
+// takes after it but where it is told.
 void Win32Window::setRightToLeft(bool isRightToLeft) {
   isFromRight_ = isRightToLeft;
+  mirror(window_, isRightToLeft);
+  SetWindowPos(window_, nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   for (const HWND list : {grid_, events_}) mirrorList(list, isRightToLeft);
   mirror(status_, isRightToLeft);
   layOut();
@@ -200,7 +216,7 @@ void Win32Window::nameButton(const tessaly::transparentBitmap& button, std::u16s
   setToolTip(toolTips_, windowOf(button), text);
 }
 
-void Win32Window::setMenu(const std::vector<MenuItem>& menus) { setMenus(window_, menus, isFromRight_); }
+void Win32Window::setMenu(const std::vector<MenuItem>& menus) { setMenus(window_, menus); }
 
 void Win32Window::setGrid(const Grid& grid) {
   std::vector<ListHeading> headings;
@@ -248,9 +264,8 @@ void Win32Window::addEvent(const Event& event) {
 }
 
 void Win32Window::setStatus(const std::array<tessaly::String, 3>& parts) {
-  const WPARAM direction = isFromRight_ ? SBT_RTLREADING : 0;
   for (std::size_t i = 0; i < parts.size(); ++i) {
-    SendMessageW(status_, SB_SETTEXTW, i | direction, reinterpret_cast<LPARAM>(toWide(parts[i]).c_str()));
+    SendMessageW(status_, SB_SETTEXTW, i, reinterpret_cast<LPARAM>(toWide(parts[i]).c_str()));
   }
 }
 

@@ -62,6 +62,7 @@ class Win32Window final : public Window {
   void paintToolBar(HDC context) const;
   void closeNow();
   void layOut();
+  void keepFocus();
   HWND windowOf(const tessaly::transparentBitmap& button) const;
   int width() const;
 
@@ -70,6 +71,9 @@ class Win32Window final : public Window {
   HWND events_ = nullptr;
   HWND status_ = nullptr;
   HWND toolTips_ = nullptr;
+
+  /// The child that has the focus where the window is used again.
+  HWND focus_ = nullptr;
   tessaly::win32::OwnedFont gridFont_;
   tessaly::win32::OwnedFont font_;
   std::vector<Placed> buttons_;
