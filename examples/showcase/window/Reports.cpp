@@ -52,19 +52,19 @@ Reports::~Reports() {
 }
 
 void Reports::listenToWindow() {
-  window_.handlers.onCommand = [this](Long id) { perform(static_cast<Command>(id), u"Menu"); };
+  window_.handlers.onCommand = [this](Long id) { perform(static_cast<Command>(id), u"OnCommand"); };
   window_.handlers.onHeading = [this](Long column) {
     const bool isAgain = report_.sortedColumn() == static_cast<Column>(column);
     takeSelection();
     message_ = sortBy(column, isAgain && !report_.isDescending());
-    tell(message_, u"Heading", std::nullopt);
+    tell(message_, u"OnHeading", std::nullopt);
     show();
   };
   window_.handlers.onKey = [this](std::int16_t key, std::int16_t shift) {
     under_ = HelpMenu;
     if (desk_.helpKey(key, shift, window_.handle(), kPage)) return true;
     const auto command = commandOf(key, shift);
-    if (command) perform(*command, u"Key");
+    if (command) perform(*command, u"OnKey");
     return command.has_value();
   };
   window_.handlers.onClose = [this] { return close(); };
