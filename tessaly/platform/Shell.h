@@ -10,6 +10,7 @@ namespace tessaly::platform {
 /// The results of `ShellExecuteA`, by the platform's own numbers: all above `kLastFailure` are successes.
 namespace shell_result {
 inline constexpr std::intptr_t kFileNotFound = 2;
+inline constexpr std::intptr_t kPathNotFound = 3;
 inline constexpr std::intptr_t kAccessDenied = 5;
 inline constexpr std::intptr_t kOutOfMemory = 8;
 inline constexpr std::intptr_t kNoAssociation = 31;

@@ -16,7 +16,7 @@ class UserOfFake final : public BoxUser {
   }
   const std::vector<ShownBox>& seen() const override {
     seen_.clear();
-    for (const auto& box : boxes_.boxes()) seen_.push_back({box.owner, box.text, box.caption, {}, 0});
+    for (const auto& box : boxes_.boxes()) seen_.push_back({box.owner, box.text, box.caption, {}, 0, 0});
     return seen_;
   }
   WindowHandle activate() override {
@@ -32,11 +32,11 @@ class UserOfFake final : public BoxUser {
 }  // namespace
 
 BoxWorld::BoxWorld(Body body) {
-  if (body == Body::Own) {
-    user_ = BoxUser::make();
-  } else {
+  if (body == Body::Fake) {
     inForce_.emplace(fake_);
     user_ = std::make_unique<UserOfFake>(fake_);
+  } else {
+    user_ = BoxUser::make();
   }
 }
 

@@ -15,14 +15,22 @@ struct ShownBox {
   platform::WindowHandle owner = 0;
   String text;
   String caption;
+
+  /// In the order of their set.
   std::vector<Long> buttons;
   Long defaultButton = 0;
+
+  /// By its bits in the type, 0 for none.
+  Long icon = 0;
 };
 
 /// Looks at the boxes of this thread and answers them.
 class BoxUser {
  public:
-  /// None where no boxes can be shown.
+  /// The bodies that show boxes in this program.
+  static std::vector<Body> bodies();
+
+  /// That of the platform or of the toolkit; none where no boxes can be shown.
   static std::unique_ptr<BoxUser> make();
 
   BoxUser() = default;
@@ -44,7 +52,7 @@ class BoxWorld {
  public:
   explicit BoxWorld(Body body);
 
-  /// Null where no boxes are shown.
+  /// Null where no boxes are shown, as it may be on the platform's own body.
   BoxUser* user() { return user_.get(); }
 
  private:

@@ -13,11 +13,14 @@ class ViewerOfFake final : public RecordingViewer {
   explicit ViewerOfFake(fake::HtmlHelp& help) : help_(help) {}
 
   WindowHandle window() override { return 0x1234; }
-  bool isTopMost(WindowHandle window) override {
+  bool isOnTop() override {
     return std::any_of(help_.placed().begin(), help_.placed().end(),
-                       [&](const auto& each) { return each.window == window && each.after == kTopMost; });
+                       [&](const auto& each) { return each.window == window() && each.after == kTopMost; });
   }
-  void answer(WindowHandle viewer) override { help_.answer(viewer); }
+  bool answer(WindowHandle viewer) override {
+    help_.answer(viewer);
+    return true;
+  }
   std::vector<HelpCall> shown() override { return help_.shown(); }
 
  private:
@@ -27,11 +30,11 @@ class ViewerOfFake final : public RecordingViewer {
 }  // namespace
 
 HelpWorld::HelpWorld(Body body) {
-  if (body == Body::Own) {
-    viewer_ = RecordingViewer::make();
-  } else {
+  if (body == Body::Fake) {
     inForce_.emplace(fake_);
     viewer_ = std::make_unique<ViewerOfFake>(fake_);
+  } else {
+    viewer_ = RecordingViewer::make();
   }
 }
 

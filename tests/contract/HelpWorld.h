@@ -21,10 +21,14 @@ namespace tessaly::tests {
 
 using HelpCall = platform::fake::HtmlHelp::Shown;
 
-/// What stands in the place of the platform's viewer of help, and keeps what is asked of it.
+/// What stands in the place of the platform's viewer of help and keeps what is asked of it, or sees it on a
+/// viewer that shows it.
 class RecordingViewer {
  public:
-  /// None where the platform has no viewer.
+  /// The bodies that show help in this program.
+  static std::vector<Body> bodies();
+
+  /// That of the platform or of the toolkit; none where nothing shows help.
   static std::unique_ptr<RecordingViewer> make();
 
   RecordingViewer() = default;
@@ -32,11 +36,17 @@ class RecordingViewer {
   RecordingViewer& operator=(const RecordingViewer&) = delete;
   virtual ~RecordingViewer() = default;
 
-  /// A window of the user's that stands where others are.
+  /// A window of the host's that stands where others are.
   virtual platform::WindowHandle window() = 0;
 
-  virtual bool isTopMost(platform::WindowHandle window) = 0;
-  virtual void answer(platform::WindowHandle viewer) = 0;
+  /// Whether the viewer's window is before all others; `window` where it has none of its own.
+  virtual bool isOnTop() = 0;
+
+  /// From now on the viewer's window is this one; false where it always has a window of its own.
+  virtual bool answer(platform::WindowHandle viewer) = 0;
+
+  /// What was asked for, the latest at the end; a viewer that shows it has no more than that. Of a long text
+  /// there it may be the beginning.
   virtual std::vector<HelpCall> shown() = 0;
 };
 
@@ -45,7 +55,7 @@ class HelpWorld {
  public:
   explicit HelpWorld(Body body);
 
-  /// Null where nothing shows help.
+  /// Null where nothing shows help, as it may be on the platform's own body.
   RecordingViewer* viewer() { return viewer_.get(); }
 
  private:

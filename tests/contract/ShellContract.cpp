@@ -5,8 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "tessaly/base/Text.h"
+#include "tessaly/platform/Ansi.h"
 #include "tessaly/platform/Desktop.h"
-#include "tessaly/platform/fake/Locale.h"
 #include "tessaly/platform/fake/Shell.h"
 #include "tests/contract/RecordingOpener.h"
 #include "tests/support/Platform.h"
@@ -18,23 +19,18 @@ namespace {
 using namespace platform;
 using shell_result::kLastFailure;
 
-/// Has a fake of the shipped kind answer as the platforms do.
+/// Tells a fake of the shipped kind what nobody opens, and shows what it has kept.
 class OpenerOfFake final : public RecordingOpener {
  public:
   explicit OpenerOfFake(fake::Shell& shell) : shell_(shell) {
-    shell.onOpen([this](const fake::Shell::Opened& call) { shell_.answer(resultFor(call)); });
+    shell.answer(kAddressOfNobody, shell_result::kNoAssociation);
+    shell.answer(kMissingFile, shell_result::kFileNotFound);
   }
 
   std::string scheme() const override { return "tessaly-tests"; }
-  std::string next() override { return shell_.opened().at(next_++).file.value_or(""); }
+  std::string next() override { return toUtf8(fromAnsi(shell_.opened().at(next_++).file.value_or(""))); }
 
  private:
-  static std::intptr_t resultFor(const fake::Shell::Opened& call) {
-    if (call.operation.value_or("open") != "open") return shell_result::kNoAssociation;
-    if (call.file == kAddressOfNobody) return shell_result::kNoAssociation;
-    return call.file == kMissingFile ? shell_result::kFileNotFound : shell_result::kSuccess;
-  }
-
   fake::Shell& shell_;
   std::size_t next_ = 0;
 };
@@ -76,6 +72,14 @@ TEST_P(ShellContract, HandsAnAddressToWhoOpensItAsItIs) {
   }
 }
 
+TEST_P(ShellContract, ReadsAnAddressInTheSystemsCodePage) {
+  for (const char16_t* const text : {u"Caf\u00E9", u"\u0416\u0443\u043A", u"\u65E5\u672C", u"\u05D0"}) {
+    const std::string inCodePage = toAnsi(text);
+    EXPECT_GT(open(address(inCodePage)), kLastFailure);
+    EXPECT_EQ(next(), address(toUtf8(fromAnsi(inCodePage))));
+  }
+}
+
 TEST_P(ShellContract, LeavesNamesOfVariablesAlone) {
   if (GetParam() == Body::Own && underWine()) GTEST_SKIP() << "Wine: it puts the variables in their place";
   EXPECT_GT(open(address("%PATH% $PATH ${PATH}")), kLastFailure);
@@ -95,6 +99,11 @@ TEST_P(ShellContract, TakesNoOperationForOpen) {
   const auto result = desktop().shell->ShellExecuteA(0, nullptr, file.c_str(), nullptr, nullptr, kShowNormal);
   EXPECT_GT(result, kLastFailure);
   EXPECT_EQ(next(), file);
+}
+
+TEST_P(ShellContract, KnowsItsOperationInAnyCase) {
+  EXPECT_GT(open(address("x"), "Open"), kLastFailure);
+  EXPECT_EQ(next(), address("x"));
 }
 
 TEST_P(ShellContract, FailsForWhatNobodyOpens) { EXPECT_LE(open(kAddressOfNobody), kLastFailure); }

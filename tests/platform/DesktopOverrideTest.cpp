@@ -189,5 +189,21 @@ TEST(FakeShells, RecordWhatIsOpenedAndAnswerOrFailAsTold) {
   EXPECT_EQ(shell.opened(), expected);
 }
 
+TEST(FakeShells, AnswerAsThePlatformsDoWhereNothingElseIsTold) {
+  fake::Shell shell;
+  const auto open = [&](const char* operation, const char* file) {
+    return shell.ShellExecuteA(0, operation, file, nullptr, nullptr, 1);
+  };
+  EXPECT_EQ(open("OPEN", "a"), shell_result::kSuccess);
+  for (const char* const operation : {"", "ope", "opens", "print"})
+    EXPECT_EQ(open(operation, "a"), shell_result::kNoAssociation) << operation;
+  EXPECT_EQ(open("open", nullptr), shell_result::kFileNotFound);
+  shell.answer("a", 5);
+  EXPECT_EQ(open("open", "a"), 5);
+  EXPECT_EQ(open("open", "ab"), shell_result::kSuccess);
+  shell.answer(8);
+  EXPECT_EQ(open("open", "a"), 8);
+}
+
 }  // namespace
 }  // namespace tessaly::platform

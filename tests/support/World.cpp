@@ -36,7 +36,19 @@ class FakeWorld final : public World {
 
 }  // namespace
 
-void PrintTo(Body body, std::ostream* out) { *out << (body == Body::Own ? "Own" : "Fake"); }
+void PrintTo(Body body, std::ostream* out) {
+  switch (body) {
+    case Body::Own:
+      *out << "Own";
+      break;
+    case Body::Fake:
+      *out << "Fake";
+      break;
+    case Body::Toolkit:
+      *out << "Toolkit";
+      break;
+  }
+}
 
 std::unique_ptr<World> World::make(Body body) {
   if (body == Body::Fake) return std::make_unique<FakeWorld>();

@@ -10,8 +10,9 @@
 
 namespace tessaly::tests {
 
-/// Which bodies a contract runs on: the platform's own on a real folder, or the shipped stand-ins.
-enum class Body { Own, Fake };
+/// Which bodies a contract runs on: the platform's own on a real folder, the shipped stand-ins, or those that
+/// a toolkit puts in the platform's place.
+enum class Body { Own, Fake, Toolkit };
 void PrintTo(Body body, std::ostream* out);
 
 /// A folder of files and the bodies that see it, in force as long as the world lives.

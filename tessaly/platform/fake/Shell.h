@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -10,7 +11,9 @@
 
 namespace tessaly::platform::fake {
 
-/// A shell that opens nothing and keeps what was asked of it. Not for several threads at once.
+/// A shell that opens nothing and keeps what was asked of it. At first it answers as the platforms do where
+/// everything can be opened: `shell_result::kSuccess`, but `kNoAssociation` for another operation than
+/// "open", and `kFileNotFound` without a file. Not for several threads at once.
 class TESSALY_DESKTOP_API Shell final : public platform::Shell {
  public:
   /// What a call was told; what was null is none.
@@ -25,8 +28,11 @@ class TESSALY_DESKTOP_API Shell final : public platform::Shell {
     bool operator==(const Opened&) const = default;
   };
 
-  /// From now on calls give this; `shell_result::kSuccess` at first.
+  /// From now on all calls give this.
   void answer(std::intptr_t result) { result_ = result; }
+
+  /// From now on to open this file or address gives this, such as `shell_result::kFileNotFound`.
+  void answer(const std::string& file, std::intptr_t result) { resultsOfFiles_[file] = result; }
 
   /// From now on calls raise this error, such as 453 for a call that is missing; with 0 they work again.
   void raise(Long error) { error_ = error; }
@@ -41,7 +47,10 @@ class TESSALY_DESKTOP_API Shell final : public platform::Shell {
                               const char* parameters, const char* directory, Long show) override;
 
  private:
-  std::intptr_t result_ = shell_result::kSuccess;
+  std::intptr_t resultOf(const Opened& call) const;
+
+  std::optional<std::intptr_t> result_;
+  std::map<std::string, std::intptr_t> resultsOfFiles_;
   Long error_ = 0;
   std::function<void(const Opened&)> look_;
   std::vector<Opened> opened_;

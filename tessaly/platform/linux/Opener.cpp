@@ -1,6 +1,7 @@
 #include "tessaly/platform/linux/Opener.h"
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -13,20 +14,33 @@
 #include <ctime>
 #include <string_view>
 
+#include "tessaly/platform/linux/CloseDescriptors.h"
+
 namespace tessaly::platform {
 namespace {
 
 constexpr const char* kOpener = "xdg-open";
 constexpr std::string_view kUsualFolders = "/usr/local/bin:/usr/bin:/bin";
 
-/// How long the caller waits for the program's end: most hand over to a desktop and are gone by then.
-constexpr timespec kMoment{0, 500'000'000};
-
 /// What the process in between ends with beside the program's own exit code; no opener has such ones.
 constexpr int kStillThere = 200;
 constexpr int kTooLong = 201;
 constexpr int kNoStart = 202;
 constexpr int kKilled = 203;
+constexpr int kNoFolder = 204;
+
+/// What is to be run, ready before there is a process for it, which could make none of it any more.
+struct Program {
+  const char* path;
+  char* const* words;
+  const char* directory;
+  timespec moment;
+};
+
+timespec timeOf(std::chrono::nanoseconds time) {
+  const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(time);
+  return {seconds.count(), (time - seconds).count()};
+}
 
 bool isProgram(const std::string& path) {
   struct stat found {};
@@ -50,6 +64,19 @@ class NoSignals {
   sigset_t before_{};
 };
 
+/// Whoever wants to end this thread waits: a process that is a copy of it would end there instead, in the
+/// midst of the host's code.
+class NotCancelled {
+ public:
+  NotCancelled() { pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before_); }
+  NotCancelled(const NotCancelled&) = delete;
+  NotCancelled& operator=(const NotCancelled&) = delete;
+  ~NotCancelled() { pthread_setcancelstate(before_, nullptr); }
+
+ private:
+  int before_ = PTHREAD_CANCEL_ENABLE;
+};
+
 /// A fork that runs no handlers of the host's and lets the child's end be told by a signal of one's choice,
 /// or by none. The child may only make plain calls of the system.
 pid_t forkPlainly(int signalOfEnd) {
@@ -68,34 +95,37 @@ void restoreSignals() {
 
 /// A host's output that goes into a pipe would not end before a browser does.
 void dropDescriptors() {
+  // The first takes no room but that of the host's, who may have left none.
+  close(STDIN_FILENO);
   const int nowhere = open("/dev/null", O_RDWR);
-  for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nowhere, standard);
-  syscall(SYS_close_range, STDERR_FILENO + 1, ~0U, 0);
+  for (const int output : {STDOUT_FILENO, STDERR_FILENO}) dup2(nowhere, output);
+  closeDescriptorsFrom(STDERR_FILENO + 1);
 }
 
-[[noreturn]] void becomeProgram(const char* path, char* const* words, const char* directory) {
+[[noreturn]] void becomeProgram(const Program& program) {
   setsid();
   dropDescriptors();
   restoreSignals();
-  if (directory == nullptr || chdir(directory) == 0) execve(path, words, environ);
+  if (program.directory != nullptr && chdir(program.directory) != 0) _exit(kNoFolder);
+  execve(program.path, program.words, environ);
   _exit(errno == E2BIG ? kTooLong : kNoStart);
 }
 
 /// The process in between: the program is its child, whom the system takes over when it goes.
-[[noreturn]] void watchProgram(const char* path, char* const* words, const char* directory) {
+[[noreturn]] void watchProgram(const Program& program) {
   // Where the host ignores the ends of its children, the system would not tell them here either.
   struct sigaction told {};
   told.sa_handler = SIG_DFL;
   sigaction(SIGCHLD, &told, nullptr);
-  const pid_t program = forkPlainly(SIGCHLD);
-  if (program < 0) _exit(kTooLong);
-  if (program == 0) becomeProgram(path, words, directory);
+  const pid_t child = forkPlainly(SIGCHLD);
+  if (child < 0) _exit(kTooLong);
+  if (child == 0) becomeProgram(program);
   sigset_t ends{};
   sigemptyset(&ends);
   sigaddset(&ends, SIGCHLD);
-  sigtimedwait(&ends, nullptr, &kMoment);
+  sigtimedwait(&ends, nullptr, &program.moment);
   int status = 0;
-  if (waitpid(program, &status, WNOHANG) != program) _exit(kStillThere);
+  if (waitpid(child, &status, WNOHANG) != child) _exit(kStillThere);
   _exit(WIFEXITED(status) ? WEXITSTATUS(status) : kKilled);
 }
 
@@ -116,6 +146,8 @@ Opened openedOf(int code) {
       return {Opening::NoMemory};
     case kNoStart:
       return {Opening::NotStarted};
+    case kNoFolder:
+      return {Opening::NoFolder};
     case kKilled:
       return {Opening::Ended, -1};
     default:
@@ -123,10 +155,10 @@ Opened openedOf(int code) {
   }
 }
 
-pid_t startWatching(const char* path, char* const* words, const char* directory) {
+pid_t startWatching(const Program& program) {
   const NoSignals noSignals;
   const pid_t watcher = forkPlainly(0);
-  if (watcher == 0) watchProgram(path, words, directory);
+  if (watcher == 0) watchProgram(program);
   return watcher;
 }
 
@@ -144,11 +176,13 @@ std::optional<std::string> openerPath() {
   return std::nullopt;
 }
 
-Opened runOpener(const std::string& program, const std::string& argument, const char* directory) {
+Opened runOpener(const std::string& program, const std::string& argument, const char* directory,
+                 std::chrono::nanoseconds moment) {
   std::string name = kOpener;
   std::string word = argument;
   const std::array<char*, 3> words = {name.data(), word.data(), nullptr};
-  const pid_t watcher = startWatching(program.c_str(), words.data(), directory);
+  const NotCancelled notCancelled;
+  const pid_t watcher = startWatching({program.c_str(), words.data(), directory, timeOf(moment)});
   return watcher < 0 ? Opened{Opening::NoMemory} : openedOf(codeOf(watcher));
 }
 

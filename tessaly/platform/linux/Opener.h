@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -11,7 +12,7 @@ namespace tessaly::platform {
 std::optional<std::string> openerPath();
 
 /// How opening went, as far as it was seen.
-enum class Opening { NotStarted, NoMemory, GoesOn, Ended };
+enum class Opening { NotStarted, NoFolder, NoMemory, GoesOn, Ended };
 
 struct Opened {
   Opening how = Opening::NotStarted;
@@ -22,7 +23,9 @@ struct Opened {
 
 /// Runs the program with one argument, in a folder of one's choice, and waits for its end a moment: some
 /// programs stay as long as what they show. It gets none of the caller's descriptors, signals or terminal,
-/// and the caller no signal of its end, nor ever a child to wait for. Any thread may call.
-Opened runOpener(const std::string& program, const std::string& argument, const char* directory);
+/// and the caller no signal of its end, nor ever a child to wait for. Any thread may call, and is not
+/// cancelled meanwhile.
+Opened runOpener(const std::string& program, const std::string& argument, const char* directory,
+                 std::chrono::nanoseconds moment);
 
 }  // namespace tessaly::platform

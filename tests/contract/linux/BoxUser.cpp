@@ -2,6 +2,8 @@
 
 namespace tessaly::tests {
 
+std::vector<Body> BoxUser::bodies() { return {Body::Fake}; }
+
 std::unique_ptr<BoxUser> BoxUser::make() { return nullptr; }
 
 }  // namespace tessaly::tests

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "tessaly/platform/Desktop.h"
+#include "tessaly/platform/linux/ShellBody.h"
 #include "tests/contract/RecordingOpener.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -23,7 +25,7 @@ class SearchPath {
 
 /// The desktop's opener, in a search path of its own: it tells what it was started with, and then ends with
 /// 3 for `kAddressOfNobody`, with 2 for `kMissingFile`, with the number behind "tessaly-code:", and not
-/// before it is released for "tessaly-held:".
+/// before it is released for "tessaly-held:". A shell is in force that waits for it however long it takes.
 class OpenerOfTests final : public RecordingOpener {
  public:
   struct Start {
@@ -54,6 +56,8 @@ class OpenerOfTests final : public RecordingOpener {
   std::string readField() const;
 
   TemporaryFolder folder_;
+  platform::LinuxShell shell_{std::chrono::minutes(1)};
+  platform::Override shellInForce_{shell_};
   int told_ = -1;
   std::optional<SearchPath> path_;
 };

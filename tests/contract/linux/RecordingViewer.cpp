@@ -2,6 +2,8 @@
 
 namespace tessaly::tests {
 
+std::vector<Body> RecordingViewer::bodies() { return {Body::Fake}; }
+
 std::unique_ptr<RecordingViewer> RecordingViewer::make() { return nullptr; }
 
 }  // namespace tessaly::tests

@@ -29,13 +29,33 @@ BOOL CALLBACK collectButton(HWND child, LPARAM box) {
   return TRUE;
 }
 
+Long bitsOf(HICON icon) {
+  if (icon == nullptr) return 0;
+  const std::vector<std::pair<LPCTSTR, Long>> known = {
+      {IDI_HAND, 0x10}, {IDI_QUESTION, 0x20}, {IDI_EXCLAMATION, 0x30}, {IDI_ASTERISK, 0x40}};
+  const auto found = std::find_if(known.begin(), known.end(),
+                                  [icon](const auto& each) { return LoadIcon(nullptr, each.first) == icon; });
+  return found != known.end() ? found->second : -1;
+}
+
+BOOL CALLBACK findIcon(HWND child, LPARAM box) {
+  const bool hasIcon =
+      isOfClass(child, L"Static") && (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
+  if (hasIcon)
+    reinterpret_cast<ShownBox*>(box)->icon =
+        bitsOf(reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0)));
+  return TRUE;
+}
+
 ShownBox lookAt(HWND dialog) {
   ShownBox box{reinterpret_cast<platform::WindowHandle>(GetWindow(dialog, GW_OWNER)),
                textOf(GetDlgItem(dialog, kTextOfBox)),
                textOf(dialog),
                {},
+               0,
                0};
   EnumChildWindows(dialog, collectButton, reinterpret_cast<LPARAM>(&box));
+  EnumChildWindows(dialog, findIcon, reinterpret_cast<LPARAM>(&box));
   // Return presses the button that has the focus.
   box.defaultButton = GetDlgCtrlID(GetFocus());
   return box;
@@ -96,6 +116,8 @@ class UserByTimer final : public BoxUser {
 };
 
 }  // namespace
+
+std::vector<Body> BoxUser::bodies() { return {Body::Own, Body::Fake}; }
 
 std::unique_ptr<BoxUser> BoxUser::make() { return std::make_unique<UserByTimer>(); }
 

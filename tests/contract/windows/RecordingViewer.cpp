@@ -49,12 +49,11 @@ class ViewerOfTests final : public RecordingViewer {
 
   platform::WindowHandle window() override { return reinterpret_cast<platform::WindowHandle>(window_.get()); }
 
-  bool isTopMost(platform::WindowHandle window) override {
-    return (GetWindowLongW(reinterpret_cast<HWND>(window), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-  }
+  bool isOnTop() override { return (GetWindowLongW(window_.get(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; }
 
-  void answer(platform::WindowHandle viewer) override {
+  bool answer(platform::WindowHandle viewer) override {
     exported<AnswerViewer>("answerViewer")(reinterpret_cast<HWND>(viewer));
+    return true;
   }
 
   std::vector<HelpCall> shown() override {
@@ -74,6 +73,8 @@ class ViewerOfTests final : public RecordingViewer {
 };
 
 }  // namespace
+
+std::vector<Body> RecordingViewer::bodies() { return {Body::Own, Body::Fake}; }
 
 std::unique_ptr<RecordingViewer> RecordingViewer::make() {
   if (exported<AnswerViewer>("answerViewer") == nullptr)
