@@ -15,7 +15,7 @@ PictureBox::~PictureBox() = default;
 Boolean PictureBox::AutoRedraw() const { return autoRedraw_; }
 
 void PictureBox::AutoRedraw(Boolean on) {
-  if (surface_.resize(on ? size_ : PixelSize{})) clear();
+  if (resizeSurface(on ? size_ : PixelSize{})) clear();
   autoRedraw_ = on;
 }
 
@@ -40,12 +40,18 @@ PictureReference PictureBox::Picture() const { return picture_; }
 
 void PictureBox::Picture(const PictureReference& picture) {
   if (autoSize_ && hasImage(picture)) resize(picture->size());
+  if (picture != picture_) clearedTo_.reset();
   picture_ = picture;
   clear();
 }
 
 OLE_COLOR PictureBox::BackColor() const { return backColor_; }
 void PictureBox::BackColor(OLE_COLOR colour) { backColor_ = colour; }
+
+platform::DeviceContext PictureBox::hDC() {
+  isLent_ = true;
+  return surface_.context();
+}
 
 platform::DeviceContext PictureBox::hDC() const { return surface_.context(); }
 PictureReference PictureBox::Image() const { return surface_.picture(); }
@@ -59,17 +65,26 @@ void PictureBox::setSize(PixelSize size) {
 }
 
 void PictureBox::resize(PixelSize size) {
-  if (autoRedraw_) surface_.resize(size);
+  if (autoRedraw_) resizeSurface(size);
   size_ = size;
+}
+
+bool PictureBox::resizeSurface(PixelSize size) {
+  if (!surface_.resize(size)) return false;
+  clearedTo_.reset();
+  isLent_ = false;
+  return true;
 }
 
 void PictureBox::clear() {
   const std::uint32_t background = pixelOf(shownColour(backColor_, parent_->container()));
+  if (!isLent_ && clearedTo_ == background) return;
   if (picture_) {
     surface_.paint(*picture_, background);
   } else {
     surface_.fill(background);
   }
+  clearedTo_ = background;
 }
 
 }  // namespace tessaly

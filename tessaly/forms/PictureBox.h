@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "tessaly/forms/Colour.h"
 #include "tessaly/forms/Picture.h"
 #include "tessaly/forms/Scale.h"
@@ -51,7 +54,9 @@ class TESSALY_DESKTOP_API PictureBox {
   virtual OLE_COLOR BackColor() const;
   virtual void BackColor(OLE_COLOR colour);
 
-  /// The surface for platform calls; 0 where there is none or it has no pixels.
+  /// The surface for platform calls; 0 where there is none or it has no pixels. By that of a const box the
+  /// surface is only read.
+  virtual platform::DeviceContext hDC();
   virtual platform::DeviceContext hDC() const;
 
   /// A picture of the surface as it is now, which keeps its pixels.
@@ -61,12 +66,19 @@ class TESSALY_DESKTOP_API PictureBox {
   Scale parentScale() const;
   void setSize(PixelSize size);
   void resize(PixelSize size);
+  bool resizeSurface(PixelSize size);
   void clear();
 
   UserControl* parent_;
   PictureReference picture_;
   PixelSize size_;
   Surface surface_;
+
+  /// The background that the surface was cleared to last; none where the picture is not on it yet. Unless
+  /// somebody may draw on the surface, what is there already is not painted again, as each composition of a
+  /// control asks for it.
+  std::optional<std::uint32_t> clearedTo_;
+  bool isLent_ = false;
   Scale scale_{Scale::kTwips};
   OLE_COLOR backColor_ = kButtonFace;
   Boolean autoRedraw_;

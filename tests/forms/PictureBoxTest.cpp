@@ -109,6 +109,30 @@ TEST_F(PictureBoxTest, TheSameSizeAgainClearsNothing) {
   EXPECT_EQ(rows(), (Rows{"ww"}));
 }
 
+TEST_F(PictureBoxTest, ThePictureThatItHasIsPaintedAgainOverWhatWasDrawn) {
+  box_.AutoRedraw(True);
+  size(2, 1);
+  const PictureReference picture = pictured({"r."});
+  box_.Picture(picture);
+  const platform::DeviceContext kept = box_.hDC();
+  for (int turn = 0; turn < 2; ++turn) {
+    platform::desktop().drawing->pixels(kept).pixels[0] = 0x00FF00;
+    EXPECT_EQ(rows(), (Rows{"gw"}));
+    box_.Picture(picture);
+    EXPECT_EQ(rows(), (Rows{"rw"}));
+  }
+}
+
+TEST_F(PictureBoxTest, ThePictureThatItHasIsPaintedAgainOverAnotherBackColor) {
+  box_.AutoRedraw(True);
+  size(2, 1);
+  const PictureReference picture = pictured({"r."});
+  box_.Picture(picture);
+  box_.BackColor(0);
+  box_.Picture(picture);
+  EXPECT_EQ(rows(), (Rows{"rk"}));
+}
+
 TEST_F(PictureBoxTest, TheTopByteOfItsPixelsIs0) {
   box_.AutoRedraw(True);
   size(4, 1);

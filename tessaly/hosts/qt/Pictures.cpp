@@ -17,19 +17,28 @@ QImage inLogicalPixels(const QImage& image) {
                       Qt::FastTransformation);
 }
 
+PictureReference pictureOf(const QImage& image) {
+  std::vector<std::uint32_t> pixels;
+  pixels.reserve(static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height()));
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    pixels.insert(pixels.end(), row, row + image.width());
+  }
+  return std::make_shared<const Picture>(PixelSize{image.width(), image.height()}, std::move(pixels));
+}
+
 }  // namespace
 
 PictureReference toPicture(const QImage& image) {
   if (image.isNull()) return std::make_shared<const Picture>();
-  const QImage whole = inLogicalPixels(image).convertToFormat(QImage::Format_ARGB32);
-  if (whole.isNull()) throw RuntimeError(RuntimeError::OutOfMemory);
-  std::vector<std::uint32_t> pixels;
-  pixels.reserve(static_cast<std::size_t>(whole.width()) * static_cast<std::size_t>(whole.height()));
-  for (int y = 0; y < whole.height(); ++y) {
-    const auto* const row = reinterpret_cast<const QRgb*>(whole.constScanLine(y));
-    pixels.insert(pixels.end(), row, row + whole.width());
+  const QImage whole = inLogicalPixels(image);
+  // Where each pixel covers wholly or not at all, as in most icons, colours times cover are the colours.
+  if (whole.format() == QImage::Format_ARGB32_Premultiplied) {
+    if (const auto picture = pictureOf(whole); picture->isCutOut()) return picture;
   }
-  return std::make_shared<const Picture>(PixelSize{whole.width(), whole.height()}, std::move(pixels));
+  const QImage plain = whole.convertToFormat(QImage::Format_ARGB32);
+  if (plain.isNull()) throw RuntimeError(RuntimeError::OutOfMemory);
+  return pictureOf(plain);
 }
 
 PictureReference toPicture(const QPixmap& pixmap) { return toPicture(pixmap.toImage()); }

@@ -48,6 +48,18 @@ TEST(QtPicturesTest, ImagesOfEveryFormatComeInWithTheirColours) {
   }
 }
 
+TEST(QtPicturesTest, ColoursThatAreMultipliedByTheirCoverComeInAsTheyAre) {
+  for (const int cover : {0, 100, 128, 200, 255}) {
+    QImage image(2, 1, QImage::Format_ARGB32);
+    image.setPixel(0, 0, qRgba(0, 0, 0, 255));
+    image.setPixel(1, 0, qRgba(255, 0, 255, cover));
+    const QRgb wanted = cover < 128 ? 0 : qRgba(255, 0, 255, cover);
+    const PictureReference picture = toPicture(image.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+    EXPECT_EQ(picture->pixels()[0], qRgba(0, 0, 0, 255)) << cover;
+    EXPECT_EQ(picture->pixels()[1], wanted) << cover;
+  }
+}
+
 TEST(QtPicturesTest, AnImageForDenseScreensComesInLogicalPixels) {
   QImage dense = toImage(slope({8, 6}, 9)).scaled(16, 12);
   dense.setDevicePixelRatio(2);
