@@ -1,6 +1,6 @@
 #include "tessaly/hosts/qt/WidgetPlace.h"
 
-#include <QTextDocument>
+#include <array>
 #include <utility>
 
 #include "tessaly/hosts/qt/ApplicationScreen.h"
@@ -8,6 +8,7 @@
 #include "tessaly/hosts/qt/ErrorBox.h"
 #include "tessaly/hosts/qt/Mouse.h"
 #include "tessaly/hosts/qt/Painting.h"
+#include "tessaly/hosts/qt/ShownText.h"
 #include "tessaly/hosts/qt/SystemColours.h"
 #include "tessaly/hosts/qt/Text.h"
 
@@ -15,6 +16,9 @@ namespace tessaly::qt {
 namespace {
 
 constexpr PixelPoint kOutside{-1, -1};
+
+/// Left, right and middle.
+constexpr std::array<MouseState, 3> kButtons{1, 2, 4};
 
 /// True for as long as a call runs.
 class During {
@@ -33,6 +37,7 @@ class During {
 
 void WidgetPlace::leave() {
   timers_.stopAll();
+  forgetLost();
   if (userControl_ != nullptr) userControl_->leave();
 }
 
@@ -73,38 +78,104 @@ void WidgetPlace::paint() {
 }
 
 void WidgetPlace::pressed(MouseState button, MouseState shift, PixelPoint point) {
+  const auto held = shared_from_this();
   endKeyPointer();
+  endLostForNewPress();
+  mouse_.pressed(button);
+  // A pointer that has rested where the mouse was lost comes back without a move of its own.
+  if (std::exchange(isMoveOwed_, false)) {
+    raise([&](UserControl& control) { control.mouseMove(0, shift, point); });
+  }
   raise([&](UserControl& control) { control.mouseDown(button, shift, point); });
 }
 
 void WidgetPlace::moved(MouseState buttons, MouseState shift, PixelPoint point) {
-  if (buttons == 0 && isCaptured_) captureLost();
+  const auto held = shared_from_this();
+  if (buttons == 0) captureLost();
+  tellLost();
+  isMoveOwed_ = false;
   raise([&](UserControl& control) { control.mouseMove(buttons, shift, point); });
 }
 
 void WidgetPlace::released(MouseState button, MouseState shift, PixelPoint point) {
+  mouse_.released(button);
+  lostButtons_ = static_cast<MouseState>(lostButtons_ & ~button);
   raise([&](UserControl& control) { control.mouseUp(button, shift, point); });
 }
 
-void WidgetPlace::captureLost() {
-  isCaptured_ = false;
-  raise([](UserControl& control) { control.captureLost(); });
-}
-
-bool WidgetPlace::tick(int timerId) {
+void WidgetPlace::tick(int timerId) {
   const auto held = shared_from_this();
-  return timers_.tick(timerId);
+  if (mouse_.isTaken(*widget_)) captureLost();
+  tellLost();
+  const UnderWay counted(*this);
+  timers_.tick(timerId);
 }
 
 void WidgetPlace::pressKey() {
-  if (isPressHeld()) return;
   const auto held = shared_from_this();
+  endLostForNewPress();
+  if (isPressHeld()) return;
   keyPress_.begin(middle(), [this](const auto& event) { raise(event); });
 }
 
-void WidgetPlace::releaseKey(bool isOnControl) {
+void WidgetPlace::releaseKey() {
+  if (!isKeyLost_) endKeyPress(middle());
+}
+
+void WidgetPlace::endKeyPress(PixelPoint point) {
   const auto held = shared_from_this();
-  keyPress_.end(isOnControl ? middle() : kOutside, [this](const auto& event) { raise(event); });
+  keyPress_.end(point, [this](const auto& event) { raise(event); });
+}
+
+void WidgetPlace::captureLost() {
+  if (!isCaptured_) return;
+  isCaptured_ = false;
+  if (userControl_ != nullptr) userControl_->captureLost();
+  lostButtons_ = static_cast<MouseState>(lostButtons_ | mouse_.takeAll());
+  tellLostLater();
+}
+
+void WidgetPlace::keyLost() {
+  if (!keyPress_.isHeld()) return;
+  isKeyLost_ = true;
+  tellLostLater();
+}
+
+void WidgetPlace::inputLost() {
+  captureLost();
+  keyLost();
+}
+
+// Not at once: a window that is being destroyed hides its widgets, and its host is to hear nothing then.
+void WidgetPlace::tellLostLater() {
+  isLostToldBehind_ = eventsUnderWay_ > 0;
+  if (isLostToldBehind_) return;
+  QMetaObject::invokeMethod(
+      widget_, [this] { tellLost(); }, Qt::QueuedConnection);
+}
+
+void WidgetPlace::tellLost() {
+  isLostToldBehind_ = eventsUnderWay_ > 0;
+  if (isLostToldBehind_) return;
+  const auto held = shared_from_this();
+  const MouseState lost = std::exchange(lostButtons_, MouseState{0});
+  if (lost != 0) isMoveOwed_ = true;
+  const During outside(isReleasedOutside_);
+  for (const MouseState button : kButtons) {
+    if ((lost & button) != 0) raise([=](UserControl& control) { control.mouseUp(button, 0, kOutside); });
+  }
+  if (std::exchange(isKeyLost_, false)) endKeyPress(kOutside);
+}
+
+// One that comes within an event takes the place of what has been lost there: it has a release of its own.
+void WidgetPlace::endLostForNewPress() {
+  tellLost();
+  forgetLost();
+}
+
+void WidgetPlace::forgetLost() {
+  lostButtons_ = 0;
+  isKeyLost_ = false;
 }
 
 platform::WindowHandle WidgetPlace::hWnd() {
@@ -112,7 +183,7 @@ platform::WindowHandle WidgetPlace::hWnd() {
 }
 
 PixelPoint WidgetPlace::GetCursorPos() {
-  const auto pressed = keyPress_.pointer();
+  const auto pressed = isReleasedOutside_ ? kOutside : keyPress_.pointer();
   return toPoint(pressed ? widget_->mapToGlobal(toQPoint(*pressed)) : pointer.position(*widget_));
 }
 
@@ -136,11 +207,7 @@ void WidgetPlace::setCursor(std::int16_t pointerNumber, const MouseIcon& icon) {
   }
 }
 
-// The text is shown as it is, also one that looks like a page.
-void WidgetPlace::setToolTip(std::u16string_view text) {
-  const QString plain = toQString(text);
-  widget_->setToolTip(Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain);
-}
+void WidgetPlace::setToolTip(std::u16string_view text) { widget_->setToolTip(toolTipOf(toQString(text))); }
 
 void WidgetPlace::PropertyChanged(std::u16string_view name) {
   const auto held = shared_from_this();

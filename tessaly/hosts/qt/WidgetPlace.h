@@ -6,6 +6,7 @@
 #include "tessaly/forms/Guarded.h"
 #include "tessaly/forms/KeyPress.h"
 #include "tessaly/forms/UserControl.h"
+#include "tessaly/hosts/qt/HeldMouse.h"
 #include "tessaly/hosts/qt/Pointer.h"
 #include "tessaly/hosts/qt/Timers.h"
 #include "tessaly/hosts/qt/WidgetContainer.h"
@@ -28,6 +29,7 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   template <class Event>
   void raise(const Event& event) noexcept {
     const auto held = shared_from_this();
+    const UnderWay counted(*this);
     if (userControl_ != nullptr) guarded(*userControl_, [&] { event(*userControl_); });
   }
 
@@ -40,14 +42,19 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   void pressed(MouseState button, MouseState shift, PixelPoint point);
   void moved(MouseState buttons, MouseState shift, PixelPoint point);
   void released(MouseState button, MouseState shift, PixelPoint point);
-  void captureLost();
-  bool tick(int timerId);
+  void tick(int timerId);
 
-  /// A press, and a release on the control or off it, with the pointer taken to be in the middle; a press
-  /// that the mouse holds goes before.
+  /// A press and a release on the control, with the pointer taken to be in its middle; a press that the mouse
+  /// holds goes before.
   void pressKey();
-  void releaseKey(bool isOnControl);
-  bool isPressHeld() const { return isCaptured_ || keyPress_.isHeld(); }
+  void releaseKey();
+  bool isPressHeld() const { return (isCaptured_ || keyPress_.isHeld()) && !isKeyLost_; }
+
+  /// Nobody tells any more of the release of what is held, so it counts as released outside of the control:
+  /// when the loop comes to it, or behind the event that runs, since that may still begin what the release
+  /// ends.
+  void keyLost();
+  void inputLost();
 
   /// Whatever a key made of the pointer, it is where it is.
   void endKeyPointer() { keyPress_.forgetPointer(); }
@@ -77,6 +84,26 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   Screen& screen() override;
 
  private:
+  /// An event that runs.
+  class UnderWay {
+   public:
+    explicit UnderWay(WidgetPlace& place) : place_(&place) { ++place_->eventsUnderWay_; }
+    UnderWay(const UnderWay&) = delete;
+    UnderWay& operator=(const UnderWay&) = delete;
+    ~UnderWay() {
+      if (--place_->eventsUnderWay_ == 0 && place_->isLostToldBehind_) place_->tellLost();
+    }
+
+   private:
+    WidgetPlace* place_;
+  };
+
+  void captureLost();
+  void tellLostLater();
+  void tellLost();
+  void endLostForNewPress();
+  void forgetLost();
+  void endKeyPress(PixelPoint point);
   PixelPoint middle() const { return {size_.width / 2, size_.height / 2}; }
 
   WidgetContainer* widget_;
@@ -89,7 +116,14 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
 
   /// Qt brings a widget that was pressed all of the mouse until the release, so nothing is left to do.
   bool isCaptured_ = false;
+  HeldMouse mouse_;
   KeyPress keyPress_;
+  MouseState lostButtons_ = 0;
+  bool isKeyLost_ = false;
+  bool isLostToldBehind_ = false;
+  bool isMoveOwed_ = false;
+  bool isReleasedOutside_ = false;
+  int eventsUnderWay_ = 0;
   Timers timers_;
   std::shared_ptr<void> control_;
 };

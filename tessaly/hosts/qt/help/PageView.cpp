@@ -5,8 +5,10 @@
 #include <QPainter>
 #include <QTextDocument>
 #include <array>
+#include <new>
 
 #include "tessaly/hosts/qt/Text.h"
+#include "tessaly/hosts/qt/help/GuardedSlot.h"
 #include "tessaly/hosts/qt/help/HelpAddress.h"
 #include "tessaly/hosts/qt/help/Notices.h"
 #include "tessaly/hosts/qt/help/PageText.h"
@@ -72,16 +74,17 @@ bool leadsIntoArchive(const QUrl& url) {
 
 }  // namespace
 
-PageView::PageView(HelpShelf& shelf, QWidget* parent) : QTextBrowser(parent), shelf_(shelf) {
+PageView::PageView(HelpShelf& shelf, QWidget* parent)
+    : QTextBrowser(parent), shelf_(shelf), failure_(noticeOfFailure()), missingPicture_(missingPicture()) {
   setPalette(paper(palette()));
   setFrameShape(QFrame::NoFrame);
   setOpenLinks(false);
-  setAccessibleName(tr("Page"));
+  setAccessibleName(QStringLiteral("Page"));
   document()->setDocumentMargin(kMargin);
   // What pages leave open, as it reads well.
   document()->setDefaultStyleSheet(
       QStringLiteral("p, li, dd, td { line-height: 115%; } li { margin-bottom: 4px; }"));
-  connect(this, &QTextBrowser::anchorClicked, this, &PageView::follow);
+  connect(this, &QTextBrowser::anchorClicked, this, guardedSlot(this, &PageView::follow));
   connect(this, &QTextBrowser::sourceChanged, this, &PageView::turnToReading);
 }
 
@@ -97,7 +100,21 @@ void PageView::turnToReading() {
   document()->setDefaultTextOption(option);
 }
 
-QVariant PageView::loadResource(int type, const QUrl& name) {
+// Qt asks for it while it puts a page together, and no exception may pass through that.
+QVariant PageView::loadResource(int type, const QUrl& name) try {
+  return resource(type, name);
+} catch (const RuntimeError&) {
+  return spareResource(type);
+} catch (const std::bad_alloc&) {
+  return spareResource(type);
+}
+
+QVariant PageView::spareResource(int type) const {
+  if (type == QTextDocument::HtmlResource) return failure_;
+  return type == QTextDocument::ImageResource ? QVariant(missingPicture_) : QVariant(QString());
+}
+
+QVariant PageView::resource(int type, const QUrl& name) {
   const QUrl url = name.isRelative() ? source().resolved(name) : name;
   if (type == QTextDocument::HtmlResource) {
     pictures_ = 0;
@@ -129,14 +146,14 @@ QString PageView::html(const QUrl& url) const {
 
 /// Pictures take room as long as the page is shown, and each name of one takes it again.
 QVariant PageView::picture(const QUrl& url) {
-  if (pictureBytes_ >= kMostPictureBytes || ++pictures_ > kMostPictures) return missingPicture();
+  if (pictureBytes_ >= kMostPictureBytes || ++pictures_ > kMostPictures) return missingPicture_;
   const HelpBook* const book = shelf_.book(HelpShelf::numberOf(url));
   const auto page = book != nullptr ? book->find(HelpShelf::referenceOf(url)) : std::nullopt;
   const auto bytes = page ? book->read(page->page) : std::nullopt;
-  if (!bytes) return missingPicture();
+  if (!bytes) return missingPicture_;
   const QImage image = decoded(*bytes);
   pictureBytes_ += static_cast<qsizetype>(bytes->size()) + image.sizeInBytes();
-  return image.isNull() ? missingPicture() : image;
+  return image.isNull() ? missingPicture_ : image;
 }
 
 void PageView::follow(const QUrl& url) {
