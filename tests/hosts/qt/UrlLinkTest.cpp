@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <array>
+#include <memory>
 
 #include "tessaly/platform/Desktop.h"
 #include "tessaly/platform/fake/MessageBoxes.h"
@@ -159,10 +161,13 @@ TEST_F(QtUrlLinkTest, IsALinkToAssistiveTechnology) {
   EXPECT_EQ(told().text(QAccessible::Name), QStringLiteral("Help on the web"));
   QAccessibleActionInterface& actions = *told().actionInterface();
   actions.doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(opened().empty());
+  settle();
   EXPECT_EQ(opened(), kHost);
   link().setEnabled(false);
   EXPECT_FALSE(actions.actionNames().contains(QAccessibleActionInterface::pressAction()));
   actions.doAction(QAccessibleActionInterface::pressAction());
+  settle();
   EXPECT_EQ(opened().size(), 1U);
 }
 
@@ -216,6 +221,16 @@ TEST_F(QtUrlLinkTest, IsKeptAndRestored) {
   EXPECT_EQ(other.text(), QStringLiteral("Help"));
   EXPECT_EQ(other.URL(), QStringLiteral("https://host.example/"));
   EXPECT_EQ(other.alignment(), 2);
+}
+
+// While the control is placed it tells of its text, and the widget looked at a pointer that was not there
+// yet.
+TEST_F(QtUrlLinkTest, LooksAtNothingBeforeItIsThere) {
+  alignas(qt::UrlLink) std::array<std::byte, sizeof(qt::UrlLink)> memory{};
+  memory.fill(std::byte{0xA5});
+  auto* const other = std::construct_at(reinterpret_cast<qt::UrlLink*>(memory.data()), link().save());
+  EXPECT_EQ(other->URL(), QStringLiteral("https://host.example/"));
+  std::destroy_at(other);
 }
 
 TEST_F(QtUrlLinkTest, MayBeDeletedInItsEvent) {
