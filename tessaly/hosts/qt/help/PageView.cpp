@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <array>
 #include <new>
@@ -72,6 +73,15 @@ bool leadsIntoArchive(const QUrl& url) {
   return namesArchive(fromQString(url.toString()));
 }
 
+bool hasAnchor(const QTextDocument& document, const QString& name) {
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    for (auto at = block.begin(); !at.atEnd(); ++at) {
+      if (at.fragment().charFormat().anchorNames().contains(name)) return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
 PageView::PageView(HelpShelf& shelf, QWidget* parent)
@@ -86,12 +96,24 @@ PageView::PageView(HelpShelf& shelf, QWidget* parent)
       QStringLiteral("p, li, dd, td { line-height: 115%; } li { margin-bottom: 4px; }"));
   connect(this, &QTextBrowser::anchorClicked, this, guardedSlot(this, &PageView::follow));
   connect(this, &QTextBrowser::sourceChanged, this, &PageView::turnToReading);
+  connect(this, &QTextBrowser::sourceChanged, this, guardedSlot(this, &PageView::goToAnchor));
 }
 
 void PageView::showPage(const QUrl& url) {
   const bool isShown = url == source();
   setSource(url, QTextDocument::HtmlResource);
   if (isShown) reload();
+}
+
+// Qt looks for an anchor as it is written in the address, where a '%' has an escape of its own, and a link
+// may have escapes where the page has none.
+void PageView::goToAnchor(const QUrl& url) {
+  const String anchor = fromQString(url.fragment(QUrl::FullyDecoded));
+  for (const String& name : {anchor, percentDecoded(anchor)}) {
+    if (name.empty() || !hasAnchor(*document(), toQString(name))) continue;
+    scrollToAnchor(toQString(name));
+    return;
+  }
 }
 
 void PageView::turnToReading() {

@@ -33,6 +33,7 @@ class PageView : public QTextBrowser {
   QString html(const QUrl& url) const;
   QVariant picture(const QUrl& url);
   void turnToReading();
+  void goToAnchor(const QUrl& url);
 
   HelpShelf& shelf_;
   static constexpr int kMostPictures = 1000;
