@@ -9,8 +9,6 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
-#include <array>
-#include <memory>
 
 #include "tessaly/platform/Desktop.h"
 #include "tessaly/platform/fake/MessageBoxes.h"
@@ -221,16 +219,6 @@ TEST_F(QtUrlLinkTest, IsKeptAndRestored) {
   EXPECT_EQ(other.text(), QStringLiteral("Help"));
   EXPECT_EQ(other.URL(), QStringLiteral("https://host.example/"));
   EXPECT_EQ(other.alignment(), 2);
-}
-
-// While the control is placed it tells of its text, and the widget looked at a pointer that was not there
-// yet.
-TEST_F(QtUrlLinkTest, LooksAtNothingBeforeItIsThere) {
-  alignas(qt::UrlLink) std::array<std::byte, sizeof(qt::UrlLink)> memory{};
-  memory.fill(std::byte{0xA5});
-  auto* const other = std::construct_at(reinterpret_cast<qt::UrlLink*>(memory.data()), link().save());
-  EXPECT_EQ(other->URL(), QStringLiteral("https://host.example/"));
-  std::destroy_at(other);
 }
 
 TEST_F(QtUrlLinkTest, MayBeDeletedInItsEvent) {

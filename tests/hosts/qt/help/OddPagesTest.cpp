@@ -22,6 +22,11 @@ std::string pageOf(const std::string& body) {
   return R"(<html><head><meta charset="utf-8"></head><body>)" + body + "</body></html>";
 }
 
+std::string pageWithLinksTo(const std::string& part) {
+  return pageOf("<a href=\"" + part + ".html\">page</a> <a href=\"a.html#" + part +
+                "#\">place</a> <a href=\"ms-its:made.chm::/" + part + ".html\">archive</a>");
+}
+
 std::string pngOf(QSize size) {
   QImage image(size, QImage::Format_RGB32);
   image.fill(Qt::blue);
@@ -175,8 +180,7 @@ TEST_F(QtOddPagesTest, NamesLinksAndAnchorsOfAnyLengthHarmNothing) {
   for (const std::string& part : {std::string(30'000, 'x'), std::string(30'000, '%'),
                                   std::string(3000, '.') + '/', std::string(3000, '\\')}) {
     const std::string length = std::to_string(part.size()) + part.front();
-    make({{"a.html", pageOf("<a href=\"" + part + ".html\">page</a> <a href=\"a.html#" + part +
-                            "#\">place</a> <a href=\"ms-its:made.chm::/" + part + ".html\">archive</a>")}});
+    make({{"a.html", pageWithLinksTo(part)}});
     for (const char* const link : {"page", "archive"}) {
       showPage("a.html");
       click(link);
