@@ -1,6 +1,5 @@
 #include "tessaly/hosts/qt/WidgetPlace.h"
 
-#include <array>
 #include <utility>
 
 #include "tessaly/hosts/qt/ApplicationScreen.h"
@@ -14,11 +13,6 @@
 
 namespace tessaly::qt {
 namespace {
-
-constexpr PixelPoint kOutside{-1, -1};
-
-/// Left, right and middle.
-constexpr std::array<MouseState, 3> kButtons{1, 2, 4};
 
 /// True for as long as a call runs.
 class During {
@@ -37,7 +31,7 @@ class During {
 
 void WidgetPlace::leave() {
   timers_.stopAll();
-  forgetLost();
+  presses_.forgetLost();
   if (userControl_ != nullptr) userControl_->leave();
 }
 
@@ -79,103 +73,34 @@ void WidgetPlace::paint() {
 
 void WidgetPlace::pressed(MouseState button, MouseState shift, PixelPoint point) {
   const auto held = shared_from_this();
-  endKeyPointer();
-  endLostForNewPress();
-  mouse_.pressed(button);
-  // A pointer that has rested where the mouse was lost comes back without a move of its own.
-  if (std::exchange(isMoveOwed_, false)) {
-    raise([&](UserControl& control) { control.mouseMove(0, shift, point); });
-  }
-  raise([&](UserControl& control) { control.mouseDown(button, shift, point); });
+  presses_.pressed(button, shift, point);
 }
 
 void WidgetPlace::moved(MouseState buttons, MouseState shift, PixelPoint point) {
   const auto held = shared_from_this();
-  if (buttons == 0) captureLost();
-  tellLost();
-  isMoveOwed_ = false;
-  raise([&](UserControl& control) { control.mouseMove(buttons, shift, point); });
+  presses_.moved(buttons, shift, point);
 }
 
 void WidgetPlace::released(MouseState button, MouseState shift, PixelPoint point) {
-  mouse_.released(button);
-  lostButtons_ = static_cast<MouseState>(lostButtons_ & ~button);
-  raise([&](UserControl& control) { control.mouseUp(button, shift, point); });
+  const auto held = shared_from_this();
+  presses_.released(button, shift, point);
 }
 
 void WidgetPlace::tick(int timerId) {
   const auto held = shared_from_this();
-  if (mouse_.isTaken(*widget_)) captureLost();
-  tellLost();
-  const UnderWay counted(*this);
+  presses_.beforeTick();
+  const Presses::Event counted(presses_);
   timers_.tick(timerId);
 }
 
 void WidgetPlace::pressKey() {
   const auto held = shared_from_this();
-  endLostForNewPress();
-  if (isPressHeld()) return;
-  keyPress_.begin(middle(), [this](const auto& event) { raise(event); });
+  presses_.pressKey(middle());
 }
 
 void WidgetPlace::releaseKey() {
-  if (!isKeyLost_) endKeyPress(middle());
-}
-
-void WidgetPlace::endKeyPress(PixelPoint point) {
   const auto held = shared_from_this();
-  keyPress_.end(point, [this](const auto& event) { raise(event); });
-}
-
-void WidgetPlace::captureLost() {
-  if (!isCaptured_) return;
-  isCaptured_ = false;
-  if (userControl_ != nullptr) userControl_->captureLost();
-  lostButtons_ = static_cast<MouseState>(lostButtons_ | mouse_.takeAll());
-  tellLostLater();
-}
-
-void WidgetPlace::keyLost() {
-  if (!keyPress_.isHeld()) return;
-  isKeyLost_ = true;
-  tellLostLater();
-}
-
-void WidgetPlace::inputLost() {
-  captureLost();
-  keyLost();
-}
-
-// Not at once: a window that is being destroyed hides its widgets, and its host is to hear nothing then.
-void WidgetPlace::tellLostLater() {
-  isLostToldBehind_ = eventsUnderWay_ > 0;
-  if (isLostToldBehind_) return;
-  QMetaObject::invokeMethod(
-      widget_, [this] { tellLost(); }, Qt::QueuedConnection);
-}
-
-void WidgetPlace::tellLost() {
-  isLostToldBehind_ = eventsUnderWay_ > 0;
-  if (isLostToldBehind_) return;
-  const auto held = shared_from_this();
-  const MouseState lost = std::exchange(lostButtons_, MouseState{0});
-  if (lost != 0) isMoveOwed_ = true;
-  const During outside(isReleasedOutside_);
-  for (const MouseState button : kButtons) {
-    if ((lost & button) != 0) raise([=](UserControl& control) { control.mouseUp(button, 0, kOutside); });
-  }
-  if (std::exchange(isKeyLost_, false)) endKeyPress(kOutside);
-}
-
-// One that comes within an event takes the place of what has been lost there: it has a release of its own.
-void WidgetPlace::endLostForNewPress() {
-  tellLost();
-  forgetLost();
-}
-
-void WidgetPlace::forgetLost() {
-  lostButtons_ = 0;
-  isKeyLost_ = false;
+  presses_.releaseKey(middle());
 }
 
 platform::WindowHandle WidgetPlace::hWnd() {
@@ -183,7 +108,7 @@ platform::WindowHandle WidgetPlace::hWnd() {
 }
 
 PixelPoint WidgetPlace::GetCursorPos() {
-  const auto pressed = isReleasedOutside_ ? kOutside : keyPress_.pointer();
+  const auto pressed = presses_.pointer();
   return toPoint(pressed ? widget_->mapToGlobal(toQPoint(*pressed)) : pointer.position(*widget_));
 }
 

@@ -4,10 +4,9 @@
 
 #include "tessaly/forms/Container.h"
 #include "tessaly/forms/Guarded.h"
-#include "tessaly/forms/KeyPress.h"
 #include "tessaly/forms/UserControl.h"
-#include "tessaly/hosts/qt/HeldMouse.h"
 #include "tessaly/hosts/qt/Pointer.h"
+#include "tessaly/hosts/qt/Presses.h"
 #include "tessaly/hosts/qt/Timers.h"
 #include "tessaly/hosts/qt/WidgetContainer.h"
 
@@ -29,9 +28,11 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   template <class Event>
   void raise(const Event& event) noexcept {
     const auto held = shared_from_this();
-    const UnderWay counted(*this);
+    const Presses::Event counted(presses_);
     if (userControl_ != nullptr) guarded(*userControl_, [&] { event(*userControl_); });
   }
+
+  WidgetContainer& widget() const { return *widget_; }
 
   /// The control's surface; error 9 where the control has made none.
   UserControl& userControl() const;
@@ -48,16 +49,14 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   /// holds goes before.
   void pressKey();
   void releaseKey();
-  bool isPressHeld() const { return (isCaptured_ || keyPress_.isHeld()) && !isKeyLost_; }
+  bool isPressHeld() const { return presses_.isHeld(); }
 
-  /// Nobody tells any more of the release of what is held, so it counts as released outside of the control:
-  /// when the loop comes to it, or behind the event that runs, since that may still begin what the release
-  /// ends.
-  void keyLost();
-  void inputLost();
+  /// Nobody tells any more of the release of a key that is held; of any key or button.
+  void keyLost() { presses_.keyLost(); }
+  void inputLost() { presses_.allLost(); }
 
   /// Whatever a key made of the pointer, it is where it is.
-  void endKeyPointer() { keyPress_.forgetPointer(); }
+  void endKeyPointer() { presses_.forgetKeyPointer(); }
 
   Pointer pointer;
   WidgetContainer::ErrorHandler errorHandler;
@@ -71,7 +70,7 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   bool isVisible() override { return !widget_->isHidden(); }
   PixelPoint GetCursorPos() override;
   PixelPoint ScreenToClient(PixelPoint point) override;
-  void setCapture(bool captured) override { isCaptured_ = captured; }
+  void setCapture(bool captured) override { presses_.setCaptured(captured); }
   void setTimer(Timer& timer, Long milliseconds) override;
   void setCursor(std::int16_t pointer, const MouseIcon& icon) override;
   void setToolTip(std::u16string_view text) override;
@@ -84,26 +83,6 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   Screen& screen() override;
 
  private:
-  /// An event that runs.
-  class UnderWay {
-   public:
-    explicit UnderWay(WidgetPlace& place) : place_(&place) { ++place_->eventsUnderWay_; }
-    UnderWay(const UnderWay&) = delete;
-    UnderWay& operator=(const UnderWay&) = delete;
-    ~UnderWay() {
-      if (--place_->eventsUnderWay_ == 0 && place_->isLostToldBehind_) place_->tellLost();
-    }
-
-   private:
-    WidgetPlace* place_;
-  };
-
-  void captureLost();
-  void tellLostLater();
-  void tellLost();
-  void endLostForNewPress();
-  void forgetLost();
-  void endKeyPress(PixelPoint point);
   PixelPoint middle() const { return {size_.width / 2, size_.height / 2}; }
 
   WidgetContainer* widget_;
@@ -114,16 +93,7 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   bool isSettingSize_ = false;
   bool isPainting_ = false;
 
-  /// Qt brings a widget that was pressed all of the mouse until the release, so nothing is left to do.
-  bool isCaptured_ = false;
-  HeldMouse mouse_;
-  KeyPress keyPress_;
-  MouseState lostButtons_ = 0;
-  bool isKeyLost_ = false;
-  bool isLostToldBehind_ = false;
-  bool isMoveOwed_ = false;
-  bool isReleasedOutside_ = false;
-  int eventsUnderWay_ = 0;
+  Presses presses_{*this};
   Timers timers_;
   std::shared_ptr<void> control_;
 };
