@@ -4,6 +4,7 @@
 #include <array>
 #include <set>
 
+#include "tessaly/base/Ascii.h"
 #include "tools/support/Utf8.h"
 #include "tools/support/Visible.h"
 #include "tools/tessaly-reg/ValueText.h"
@@ -34,14 +35,6 @@ constexpr std::array kCommands = {
 
 /// The effort of a search grows with the pattern's length.
 constexpr std::size_t kLongestPattern = 1000;
-
-std::string lowerCased(std::string_view text) {
-  std::string result(text);
-  for (char& c : result) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return result;
-}
 
 std::string quotedWord(std::string_view word) { return '"' + tools::visible(word) + '"'; }
 
@@ -129,7 +122,7 @@ bool Parser::common(const std::string& word) {
 /// A word that begins as an option does and is none of the command's may still be a file's path.
 bool Parser::option(const std::string& word) {
   if (syntax_ == nullptr || word.size() < 2 || (word[0] != '/' && word[0] != '-')) return false;
-  const std::string option = lowerCased(std::string_view(word).substr(1));
+  const std::string option = asciiLowerText(std::string_view(word).substr(1));
   const bool isFlag = syntax_->options.find(' ' + option + ' ') != std::string_view::npos;
   const bool isFollowed = syntax_->options.find(' ' + option + "= ") != std::string_view::npos;
   if (!isFlag && !isFollowed) return false;
@@ -200,7 +193,7 @@ void Parser::plain(const std::string& word) {
 }
 
 void Parser::command(const std::string& word) {
-  const std::string lower = lowerCased(word);
+  const std::string lower = asciiLowerText(word);
   const auto* const found = std::find_if(kCommands.begin(), kCommands.end(),
                                          [&](const Syntax& known) { return known.word == lower; });
   if (found == kCommands.end()) return fail("there is no command " + quotedWord(word));

@@ -1,5 +1,6 @@
 #include "tools/tessaly-reg/RegParser.h"
 
+#include "tessaly/base/Ascii.h"
 #include "tessaly/platform/Core.h"
 #include "tools/support/Visible.h"
 #include "tools/tessaly-reg/RegEncoding.h"
@@ -16,13 +17,6 @@ constexpr std::u16string_view kBlanks = u" \t";
 
 std::u16string_view withoutBlanksBehind(std::u16string_view text) {
   return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
-/// The value of a hexadecimal digit; 16 where it is none.
-std::uint32_t hexDigit(char16_t unit) {
-  if (unit >= u'0' && unit <= u'9') return static_cast<std::uint32_t>(unit - u'0');
-  const auto lower = static_cast<char16_t>(unit | 0x20);
-  return lower >= u'a' && lower <= u'f' ? static_cast<std::uint32_t>(lower - u'a') + 10 : 16;
 }
 
 std::string littleEndian(std::uint32_t number) {
@@ -172,8 +166,8 @@ bool RegParser::text(RegChange& change) {
 
 bool RegParser::takeHexNumber(std::uint32_t& number) {
   int digits = 0;
-  for (number = 0; hexDigit(in_.front()) < 16 && digits < 9; ++digits) {
-    number = (number << 4) | hexDigit(in_.front());
+  for (number = 0; hexDigitValue(in_.front()) < 16 && digits < 9; ++digits) {
+    number = (number << 4) | hexDigitValue(in_.front());
     in_.take(in_.front());
   }
   return digits >= 1 && digits <= 8;
@@ -222,10 +216,10 @@ bool RegParser::bytes(std::string& bytes) {
 }
 
 bool RegParser::byte(std::string& bytes) {
-  const std::uint32_t first = hexDigit(in_.front());
+  const std::uint32_t first = hexDigitValue(in_.front());
   if (first == 16) return false;
   in_.take(in_.front());
-  const std::uint32_t second = hexDigit(in_.front());
+  const std::uint32_t second = hexDigitValue(in_.front());
   if (second != 16) in_.take(in_.front());
   bytes += static_cast<char>(second == 16 ? first : first * 16 + second);
   return true;

@@ -1,15 +1,14 @@
 #include "tessaly/hosts/qt/AccessibleButton.h"
 
-#include <QAccessibleWidget>
-
+#include "tessaly/hosts/qt/AccessiblePress.h"
 #include "tessaly/hosts/qt/PictureButton.h"
 
 namespace tessaly::qt {
 namespace {
 
-class AccessibleButton final : public QAccessibleWidget {
+class AccessibleButton final : public AccessiblePress {
  public:
-  explicit AccessibleButton(PictureButton& button) : QAccessibleWidget(&button, QAccessible::Button) {}
+  explicit AccessibleButton(PictureButton& button) : AccessiblePress(button, QAccessible::Button) {}
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
@@ -18,21 +17,8 @@ class AccessibleButton final : public QAccessibleWidget {
     return state;
   }
 
-  QStringList actionNames() const override {
-    QStringList names = QAccessibleWidget::actionNames();
-    if (!state().disabled) names.prepend(pressAction());
-    return names;
-  }
-
-  void doAction(const QString& name) override {
-    if (name == pressAction() && !state().disabled) {
-      button().press();
-    } else {
-      QAccessibleWidget::doAction(name);
-    }
-  }
-
  private:
+  bool canBePressed() const override { return !state().disabled; }
   PictureButton& button() const { return *static_cast<PictureButton*>(object()); }
 };
 

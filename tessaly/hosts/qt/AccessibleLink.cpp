@@ -1,15 +1,14 @@
 #include "tessaly/hosts/qt/AccessibleLink.h"
 
-#include <QAccessibleWidget>
-
+#include "tessaly/hosts/qt/AccessiblePress.h"
 #include "tessaly/hosts/qt/UrlLink.h"
 
 namespace tessaly::qt {
 namespace {
 
-class AccessibleLink final : public QAccessibleWidget {
+class AccessibleLink final : public AccessiblePress {
  public:
-  explicit AccessibleLink(UrlLink& link) : QAccessibleWidget(&link, QAccessible::Link) {}
+  explicit AccessibleLink(UrlLink& link) : AccessiblePress(link, QAccessible::Link) {}
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
@@ -23,21 +22,8 @@ class AccessibleLink final : public QAccessibleWidget {
     return kind == QAccessible::Value ? link().URL() : told;
   }
 
-  QStringList actionNames() const override {
-    QStringList names = QAccessibleWidget::actionNames();
-    if (link().isEnabled()) names.prepend(pressAction());
-    return names;
-  }
-
-  void doAction(const QString& name) override {
-    if (name == pressAction() && link().isEnabled()) {
-      link().press();
-    } else {
-      QAccessibleWidget::doAction(name);
-    }
-  }
-
  private:
+  bool canBePressed() const override { return link().isEnabled(); }
   UrlLink& link() const { return *static_cast<UrlLink*>(object()); }
 };
 

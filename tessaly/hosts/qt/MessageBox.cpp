@@ -10,11 +10,13 @@
 #include <QScrollArea>
 #include <algorithm>
 
+#include "tessaly/hosts/qt/ShownText.h"
+
 namespace tessaly::qt {
 
 MessageBox::MessageBox(const BoxType& type, const QString& text, const QString& caption, QWidget* owner)
     : QMessageBox(owner), canBeLeft_(type.escape.has_value()), comesToFront_(type.comesToFront) {
-  setWindowTitle(caption);
+  setWindowTitle(titleOf(caption));
   setIcon(type.icon);
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -16,13 +16,15 @@ int withBothBorders(Long side, Long border) {
 
 }  // namespace
 
-PictureButton::PictureButton(QWidget* parent)
-    : WidgetContainer(parent), control_(place<transparentBitmap>()) {
+// Not among the initialisers: a control that is being placed already tells of its properties, and so there
+// must be a pointer, to none.
+PictureButton::PictureButton(QWidget* parent) : WidgetContainer(parent) {
+  control_ = place<transparentBitmap>();
   prepare();
 }
 
-PictureButton::PictureButton(const PropertyBag& bag, QWidget* parent)
-    : WidgetContainer(parent), control_(place<transparentBitmap>(bag)) {
+PictureButton::PictureButton(const PropertyBag& bag, QWidget* parent) : WidgetContainer(parent) {
+  control_ = place<transparentBitmap>(bag);
   prepare();
 }
 

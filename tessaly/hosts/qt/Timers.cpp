@@ -25,15 +25,14 @@ void Timers::stopAll() {
   while (!entries_.empty()) stop(*entries_.back().timer);
 }
 
-bool Timers::tick(int id) {
+void Timers::tick(int id) {
   const auto entry = std::find_if(entries_.begin(), entries_.end(),
                                   [&](const Entry& candidate) { return candidate.id == id; });
-  if (entry == entries_.end()) return false;
+  if (entry == entries_.end()) return;
   owner_->killTimer(std::exchange(entry->id, 0));
   const std::int64_t number = entry->number;
   entry->timer->tick();
   beginAgain(number);
-  return true;
 }
 
 // A tick may have stopped its timer or begun it anew, and then there is no entry of this number.

@@ -25,8 +25,8 @@ class Timers {
   void stop(const Timer& timer);
   void stopAll();
 
-  /// A timer event with this number has come; whether it is one of these.
-  bool tick(int id);
+  /// A timer event with this number has come, of one of these or another.
+  void tick(int id);
 
  private:
   struct Entry {

@@ -5,10 +5,15 @@
 
 namespace tessaly::qt {
 
-UrlLink::UrlLink(QWidget* parent) : WidgetContainer(parent), control_(place<URLLink>()) { prepare(); }
+// Not among the initialisers: a control that is being placed already tells of its properties, and so there
+// must be a pointer, to none.
+UrlLink::UrlLink(QWidget* parent) : WidgetContainer(parent) {
+  control_ = place<URLLink>();
+  prepare();
+}
 
-UrlLink::UrlLink(const PropertyBag& bag, QWidget* parent)
-    : WidgetContainer(parent), control_(place<URLLink>(bag)) {
+UrlLink::UrlLink(const PropertyBag& bag, QWidget* parent) : WidgetContainer(parent) {
+  control_ = place<URLLink>(bag);
   prepare();
 }
 

@@ -48,7 +48,7 @@ void WidgetContainer::setPointerAsked(bool asked) { place_->pointer.setAsked(ask
 void WidgetContainer::press() {
   const auto held = place_;
   held->pressKey();
-  held->releaseKey(true);
+  held->releaseKey();
 }
 
 bool WidgetContainer::isPressHeld() const { return place_->isPressHeld(); }
@@ -72,18 +72,18 @@ void WidgetContainer::guard(const std::function<void()>& call) noexcept {
 
 void WidgetContainer::propertyChanged(std::u16string_view name) { emit PropertyChanged(toQString(name)); }
 
-// A dialog that opens takes the mouse away, and nobody tells of the release.
+// A dialog that opens takes mouse and keyboard away, and nobody tells of the release.
 bool WidgetContainer::event(QEvent* event) {
-  if (event->type() == QEvent::WindowBlocked) place_->captureLost();
+  if (event->type() == QEvent::WindowBlocked) place_->inputLost();
   return QWidget::event(event);
 }
 
 void WidgetContainer::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::EnabledChange && !isEnabled()) place_->captureLost();
+  if (event->type() == QEvent::EnabledChange && !isEnabled()) place_->inputLost();
   QWidget::changeEvent(event);
 }
 
-void WidgetContainer::hideEvent(QHideEvent*) { place_->captureLost(); }
+void WidgetContainer::hideEvent(QHideEvent*) { place_->inputLost(); }
 void WidgetContainer::enterEvent(QEnterEvent* event) { place_->pointer.seen(event->globalPosition()); }
 void WidgetContainer::leaveEvent(QEvent*) { place_->pointer.left(); }
 
@@ -122,13 +122,13 @@ void WidgetContainer::keyPressEvent(QKeyEvent* event) {
 
 void WidgetContainer::keyReleaseEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Space) return QWidget::keyReleaseEvent(event);
-  if (!event->isAutoRepeat()) place_->releaseKey(true);
+  if (!event->isAutoRepeat()) place_->releaseKey();
 }
 
 void WidgetContainer::focusOutEvent(QFocusEvent* event) {
   QWidget::focusOutEvent(event);
   place_->endKeyPointer();
-  place_->releaseKey(false);
+  place_->keyLost();
 }
 
 void WidgetContainer::paintEvent(QPaintEvent*) { place_->paint(); }
@@ -137,8 +137,6 @@ void WidgetContainer::resizeEvent(QResizeEvent*) {
   place_->widgetResized({std::min(width(), kLongestSide), std::min(height(), kLongestSide)});
 }
 
-void WidgetContainer::timerEvent(QTimerEvent* event) {
-  if (!place_->tick(event->timerId())) QWidget::timerEvent(event);
-}
+void WidgetContainer::timerEvent(QTimerEvent* event) { place_->tick(event->timerId()); }
 
 }  // namespace tessaly::qt

@@ -1,6 +1,5 @@
 #include "tessaly/hosts/qt/WidgetPlace.h"
 
-#include <QTextDocument>
 #include <utility>
 
 #include "tessaly/hosts/qt/ApplicationScreen.h"
@@ -8,13 +7,12 @@
 #include "tessaly/hosts/qt/ErrorBox.h"
 #include "tessaly/hosts/qt/Mouse.h"
 #include "tessaly/hosts/qt/Painting.h"
+#include "tessaly/hosts/qt/ShownText.h"
 #include "tessaly/hosts/qt/SystemColours.h"
 #include "tessaly/hosts/qt/Text.h"
 
 namespace tessaly::qt {
 namespace {
-
-constexpr PixelPoint kOutside{-1, -1};
 
 /// True for as long as a call runs.
 class During {
@@ -33,6 +31,7 @@ class During {
 
 void WidgetPlace::leave() {
   timers_.stopAll();
+  presses_.forgetLost();
   if (userControl_ != nullptr) userControl_->leave();
 }
 
@@ -73,38 +72,35 @@ void WidgetPlace::paint() {
 }
 
 void WidgetPlace::pressed(MouseState button, MouseState shift, PixelPoint point) {
-  endKeyPointer();
-  raise([&](UserControl& control) { control.mouseDown(button, shift, point); });
+  const auto held = shared_from_this();
+  presses_.pressed(button, shift, point);
 }
 
 void WidgetPlace::moved(MouseState buttons, MouseState shift, PixelPoint point) {
-  if (buttons == 0 && isCaptured_) captureLost();
-  raise([&](UserControl& control) { control.mouseMove(buttons, shift, point); });
+  const auto held = shared_from_this();
+  presses_.moved(buttons, shift, point);
 }
 
 void WidgetPlace::released(MouseState button, MouseState shift, PixelPoint point) {
-  raise([&](UserControl& control) { control.mouseUp(button, shift, point); });
-}
-
-void WidgetPlace::captureLost() {
-  isCaptured_ = false;
-  raise([](UserControl& control) { control.captureLost(); });
-}
-
-bool WidgetPlace::tick(int timerId) {
   const auto held = shared_from_this();
-  return timers_.tick(timerId);
+  presses_.released(button, shift, point);
+}
+
+void WidgetPlace::tick(int timerId) {
+  const auto held = shared_from_this();
+  presses_.beforeTick();
+  const Presses::Event counted(presses_);
+  timers_.tick(timerId);
 }
 
 void WidgetPlace::pressKey() {
-  if (isPressHeld()) return;
   const auto held = shared_from_this();
-  keyPress_.begin(middle(), [this](const auto& event) { raise(event); });
+  presses_.pressKey(middle());
 }
 
-void WidgetPlace::releaseKey(bool isOnControl) {
+void WidgetPlace::releaseKey() {
   const auto held = shared_from_this();
-  keyPress_.end(isOnControl ? middle() : kOutside, [this](const auto& event) { raise(event); });
+  presses_.releaseKey(middle());
 }
 
 platform::WindowHandle WidgetPlace::hWnd() {
@@ -112,7 +108,7 @@ platform::WindowHandle WidgetPlace::hWnd() {
 }
 
 PixelPoint WidgetPlace::GetCursorPos() {
-  const auto pressed = keyPress_.pointer();
+  const auto pressed = presses_.pointer();
   return toPoint(pressed ? widget_->mapToGlobal(toQPoint(*pressed)) : pointer.position(*widget_));
 }
 
@@ -136,11 +132,7 @@ void WidgetPlace::setCursor(std::int16_t pointerNumber, const MouseIcon& icon) {
   }
 }
 
-// The text is shown as it is, also one that looks like a page.
-void WidgetPlace::setToolTip(std::u16string_view text) {
-  const QString plain = toQString(text);
-  widget_->setToolTip(Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain);
-}
+void WidgetPlace::setToolTip(std::u16string_view text) { widget_->setToolTip(toolTipOf(toQString(text))); }
 
 void WidgetPlace::PropertyChanged(std::u16string_view name) {
   const auto held = shared_from_this();

@@ -4,9 +4,9 @@
 
 #include "tessaly/forms/Container.h"
 #include "tessaly/forms/Guarded.h"
-#include "tessaly/forms/KeyPress.h"
 #include "tessaly/forms/UserControl.h"
 #include "tessaly/hosts/qt/Pointer.h"
+#include "tessaly/hosts/qt/Presses.h"
 #include "tessaly/hosts/qt/Timers.h"
 #include "tessaly/hosts/qt/WidgetContainer.h"
 
@@ -28,8 +28,11 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   template <class Event>
   void raise(const Event& event) noexcept {
     const auto held = shared_from_this();
+    const Presses::Event counted(presses_);
     if (userControl_ != nullptr) guarded(*userControl_, [&] { event(*userControl_); });
   }
+
+  WidgetContainer& widget() const { return *widget_; }
 
   /// The control's surface; error 9 where the control has made none.
   UserControl& userControl() const;
@@ -40,17 +43,20 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   void pressed(MouseState button, MouseState shift, PixelPoint point);
   void moved(MouseState buttons, MouseState shift, PixelPoint point);
   void released(MouseState button, MouseState shift, PixelPoint point);
-  void captureLost();
-  bool tick(int timerId);
+  void tick(int timerId);
 
-  /// A press, and a release on the control or off it, with the pointer taken to be in the middle; a press
-  /// that the mouse holds goes before.
+  /// A press and a release on the control, with the pointer taken to be in its middle; a press that the mouse
+  /// holds goes before.
   void pressKey();
-  void releaseKey(bool isOnControl);
-  bool isPressHeld() const { return isCaptured_ || keyPress_.isHeld(); }
+  void releaseKey();
+  bool isPressHeld() const { return presses_.isHeld(); }
+
+  /// Nobody tells any more of the release of a key that is held; of any key or button.
+  void keyLost() { presses_.keyLost(); }
+  void inputLost() { presses_.allLost(); }
 
   /// Whatever a key made of the pointer, it is where it is.
-  void endKeyPointer() { keyPress_.forgetPointer(); }
+  void endKeyPointer() { presses_.forgetKeyPointer(); }
 
   Pointer pointer;
   WidgetContainer::ErrorHandler errorHandler;
@@ -64,7 +70,7 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   bool isVisible() override { return !widget_->isHidden(); }
   PixelPoint GetCursorPos() override;
   PixelPoint ScreenToClient(PixelPoint point) override;
-  void setCapture(bool captured) override { isCaptured_ = captured; }
+  void setCapture(bool captured) override { presses_.setCaptured(captured); }
   void setTimer(Timer& timer, Long milliseconds) override;
   void setCursor(std::int16_t pointer, const MouseIcon& icon) override;
   void setToolTip(std::u16string_view text) override;
@@ -87,9 +93,7 @@ class WidgetPlace final : public Container, public std::enable_shared_from_this<
   bool isSettingSize_ = false;
   bool isPainting_ = false;
 
-  /// Qt brings a widget that was pressed all of the mouse until the release, so nothing is left to do.
-  bool isCaptured_ = false;
-  KeyPress keyPress_;
+  Presses presses_{*this};
   Timers timers_;
   std::shared_ptr<void> control_;
 };

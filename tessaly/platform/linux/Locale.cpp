@@ -11,8 +11,8 @@
 #include <string>
 
 #include "tessaly/base/Text.h"
+#include "tessaly/platform/AnsiCodePage.h"
 #include "tessaly/platform/Bodies.h"
-#include "tessaly/platform/linux/AnsiCodePage.h"
 #include "tessaly/platform/linux/CodePage.h"
 #include "tessaly/platform/linux/UpperCase.h"
 

@@ -41,10 +41,31 @@ TEST_F(QtAccessibilityTest, ItCanBePressed) {
   QAccessibleActionInterface& actions = *told().actionInterface();
   EXPECT_TRUE(actions.actionNames().contains(QAccessibleActionInterface::pressAction()));
   actions.doAction(QAccessibleActionInterface::pressAction());
+  settle();
   EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick"}));
   button().enabled(false);
   EXPECT_FALSE(actions.actionNames().contains(QAccessibleActionInterface::pressAction()));
   actions.doAction(QAccessibleActionInterface::pressAction());
+  settle();
+  EXPECT_EQ(takeEvents(), Events{});
+}
+
+// Whoever reads the screen waited for the answer until the dialog of the click was closed.
+TEST_F(QtAccessibilityTest, APressComesWhenTheLoopDoes) {
+  told().actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(takeEvents(), Events{});
+  settle();
+  EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick"}));
+}
+
+TEST_F(QtAccessibilityTest, APressOfAWidgetThatIsDisabledOrGoneMeanwhileIsNone) {
+  told().actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  button().setEnabled(false);
+  settle();
+  button().setEnabled(true);
+  told().actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  delete button_.data();
+  settle();
   EXPECT_EQ(takeEvents(), Events{});
 }
 

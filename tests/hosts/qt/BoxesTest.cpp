@@ -183,6 +183,19 @@ TEST_F(QtBoxesTest, TextsStandAsTheyAre) {
       text, u"Caption & <i>");
 }
 
+// Qt took the mark of a changed document out of the caption.
+TEST_F(QtBoxesTest, ACaptionMayHoldTheMarkOfAChangedDocument) {
+  for (const char16_t* const caption : {u"[*]", u"Report [*] of [*][*]", u"[*] [[*]] [*", u"[*][*][*]"}) {
+    show(
+        0,
+        [&](QMessageBox& box) {
+          EXPECT_EQ(box.windowHandle()->title().toStdU16String(), String(caption));
+          box.done(0);
+        },
+        u"Text", caption);
+  }
+}
+
 TEST_F(QtBoxesTest, AnEmptyPromptIsAnEmptyBoxAndNullIsEmpty) {
   QTimer::singleShot(0, qApp, [] { press(*openBox(), "OK"); });
   EXPECT_EQ(platform::desktop().messageBoxes->MessageBoxW(0, nullptr, nullptr, 0), 1);

@@ -13,6 +13,12 @@ class QtKeyboardTest : public ButtonOnStage {
  protected:
   QtKeyboardTest() { EXPECT_TRUE(QTest::qWaitForWindowActive(&stage_.window())); }
 
+  bool runsFirstAutomaticTimer() const {
+    constexpr int kFirstAutomaticClick = 500;
+    const std::vector<int> running = timers();
+    return std::count(running.begin(), running.end(), kFirstAutomaticClick) > 0;
+  }
+
   void focus() {
     button().setFocusPolicy(Qt::TabFocus);
     button().setFocus(Qt::TabFocusReason);
@@ -89,10 +95,37 @@ TEST_F(QtKeyboardTest, ADialogInTheClickOfTheKeysPressEndsThePress) {
   QObject::connect(&button(), &qt::PictureButton::OnButtonClick, [this] { button().clearFocus(); });
   QTest::keyPress(&button(), Qt::Key_Space);
   EXPECT_FALSE(button().isPressHeld());
-  constexpr int kFirstAutomaticClick = 500;
-  const std::vector<int> running = timers();
-  EXPECT_EQ(std::count(running.begin(), running.end(), kFirstAutomaticClick), 0);
+  EXPECT_FALSE(runsFirstAutomaticTimer());
   EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick"}));
+}
+
+// The timer's own click had shown the dialog, and the timer began anew behind the release.
+TEST_F(QtKeyboardTest, ADialogInARepeatedClickOfTheKeyEndsThePress) {
+  button().automaticClick(true);
+  focus();
+  QTest::keyPress(&button(), Qt::Key_Space);
+  QObject::connect(&button(), &qt::PictureButton::OnButtonClick, [this] { button().clearFocus(); });
+  tick(button(), 500);
+  EXPECT_FALSE(button().isPressHeld());
+  EXPECT_FALSE(runsFirstAutomaticTimer());
+  EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick", "OnButtonClick"}));
+}
+
+TEST_F(QtKeyboardTest, ADialogThatOpensTakesAHeldPressBack) {
+  listenToTheMouse();
+  for (const bool isAutomatic : {false, true}) {
+    button().automaticClick(isAutomatic);
+    focus();
+    QTest::keyPress(&button(), Qt::Key_Space);
+    takeEvents();
+    QEvent blocked(QEvent::WindowBlocked);
+    QCoreApplication::sendEvent(&button(), &blocked);
+    EXPECT_FALSE(button().isPressHeld());
+    QTest::keyRelease(&button(), Qt::Key_Space);
+    settle();
+    EXPECT_EQ(takeEvents(), Events{"MouseUp 1 0 -1,-1"});
+    EXPECT_FALSE(runsFirstAutomaticTimer());
+  }
 }
 
 TEST_F(QtKeyboardTest, AKeyWithModifiersIsSomebodyElses) {

@@ -48,14 +48,18 @@ Stage::Stage() : window_(std::make_unique<QWidget>()) {
 // What is held is released where nobody hears of it.
 Stage::~Stage() {
   window_.reset();
+  releaseElsewhere();
+  QCursor::setPos(kFarAway);
+  settle();
+}
+
+void Stage::releaseElsewhere() {
   QWindow elsewhere;
   elsewhere.setGeometry(kWindow);
   while (!held_.empty()) {
     QTest::mouseRelease(&elsewhere, held_.back());
     held_.pop_back();
   }
-  QCursor::setPos(kFarAway);
-  settle();
 }
 
 void Stage::show(QWidget& widget, QSize size) {

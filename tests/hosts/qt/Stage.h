@@ -48,6 +48,9 @@ class Stage {
   void press(Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {});
   void release(Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {});
 
+  /// All that is held, where another window hears of it.
+  void releaseElsewhere();
+
   void doubleClick();
 
   /// Closes the window, which goes with all that it holds.

@@ -3,19 +3,16 @@
 #include <algorithm>
 #include <array>
 
+#include "tessaly/base/Ascii.h"
+
 namespace tessaly::qt {
 namespace {
 
 constexpr std::array<std::u16string_view, 4> kSchemes{u"mk:@MSITStore:", u"ms-its:", u"ms-itss:", u"its:"};
 constexpr std::u16string_view kEnding = u".chm";
 
-char16_t lower(char16_t unit) {
-  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
-}
-
-bool isSame(char16_t a, char16_t b) { return lower(a) == lower(b); }
-
 bool startsWith(std::u16string_view text, std::u16string_view start) {
+  const auto isSame = [](char16_t a, char16_t b) { return asciiLower(a) == asciiLower(b); };
   return text.size() >= start.size() && std::equal(start.begin(), start.end(), text.begin(), isSame);
 }
 

@@ -7,8 +7,8 @@
 #include "tessaly/hosts/qt/help/HelpTables.h"
 #include "tessaly/hosts/qt/help/HelpText.h"
 #include "tessaly/hosts/qt/help/MapFiles.h"
+#include "tessaly/platform/AnsiCodePage.h"
 #include "tessaly/platform/Core.h"
-#include "tessaly/platform/linux/AnsiCodePage.h"
 
 namespace tessaly::qt {
 namespace {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "tessaly/base/Ascii.h"
 #include "tessaly/base/Text.h"
 #include "tessaly/platform/Core.h"
 
@@ -21,13 +22,6 @@ String textOfPairs(std::string_view bytes) {
     text += static_cast<char16_t>(low | high << 8U);
   }
   return text;
-}
-
-std::string lowerCased(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; });
-  return lower;
 }
 
 struct EncodingName {
@@ -68,7 +62,7 @@ String helpText(std::string_view bytes, Long codePage) {
 
 std::string declaredEncoding(std::string_view page) {
   constexpr std::string_view kName = "charset=";
-  const std::string head = lowerCased(page.substr(0, kHead));
+  const std::string head = asciiLowerText(page.substr(0, kHead));
   const std::size_t at = head.find(kName);
   if (at == std::string::npos) return {};
   const std::size_t start = std::min(head.find_first_not_of("\"' ", at + kName.size()), head.size());

@@ -8,8 +8,7 @@
 #include <QTabWidget>
 #include <QWindow>
 
-#include "tessaly/base/RuntimeError.h"
-#include "tessaly/hosts/qt/ErrorBox.h"
+#include "tessaly/hosts/qt/ShownText.h"
 #include "tessaly/hosts/qt/Text.h"
 #include "tessaly/hosts/qt/help/FindBar.h"
 #include "tessaly/hosts/qt/help/PageView.h"
@@ -54,7 +53,7 @@ void HelpWindow::showBook(int number) {
   const HelpBook* const book = shelf_.book(number);
   const QString title = book != nullptr ? toQString(book->title()).simplified() : QString();
   const QString name = QFileInfo(toQString(shelf_.path(number))).fileName();
-  setWindowTitle(title.isEmpty() ? name : title);
+  setWindowTitle(titleOf(title.isEmpty() ? name : title));
   home_->setEnabled(book != nullptr && book->home());
   fillSidePane();
 }
@@ -87,19 +86,21 @@ void HelpWindow::goHome() {
   if (book != nullptr && book->home()) page_->showPage(shelf_.urlOf(file_, book->home()->page));
 }
 
+void HelpWindow::showReference(const QString& reference) {
+  page_->showPage(shelf_.urlOf(file_, fromQString(reference)));
+}
+
 void HelpWindow::followSource(const QUrl& url) {
   if (!HelpShelf::isOwn(url)) return;
   showBook(HelpShelf::numberOf(url));
   contents_->showLineOf(HelpShelf::referenceOf(url));
 }
 
-void HelpWindow::openOutside(const QUrl& url) try {
+void HelpWindow::openOutside(const QUrl& url) {
   const std::string target = platform::toAnsi(fromQString(url.toString(QUrl::FullyEncoded)));
   const auto owner = static_cast<platform::WindowHandle>(winId());
   platform::desktop().shell->ShellExecuteA(owner, "open", target.c_str(), nullptr, nullptr,
                                            platform::kShowNormal);
-} catch (const RuntimeError& error) {
-  showErrorLater(*this, error);
 }
 
 void HelpWindow::setOnTop(bool isOnTop) {

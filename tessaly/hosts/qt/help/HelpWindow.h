@@ -53,6 +53,7 @@ class HelpWindow : public QMainWindow {
   void showUrl(const QUrl& url);
   void turnTo(QWidget* pane);
   void goHome();
+  void showReference(const QString& reference);
   void followSource(const QUrl& url);
   void fillSidePane();
   void showBook(int number);

@@ -6,8 +6,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "tessaly/hosts/qt/Text.h"
 #include "tessaly/hosts/qt/help/FindBar.h"
+#include "tessaly/hosts/qt/help/GuardedSlot.h"
 #include "tessaly/hosts/qt/help/HelpWindow.h"
 #include "tessaly/hosts/qt/help/PageView.h"
 #include "tessaly/hosts/qt/help/SitemapTree.h"
@@ -50,8 +50,8 @@ HelpWindow::HelpWindow()
   setCentralWidget(splitter_);
   addTools();
   addKeys();
-  connect(page_, &QTextBrowser::sourceChanged, this, &HelpWindow::followSource);
-  connect(page_, &PageView::outsideLinkChosen, this, &HelpWindow::openOutside);
+  connect(page_, &QTextBrowser::sourceChanged, this, guardedSlot(this, &HelpWindow::followSource));
+  connect(page_, &PageView::outsideLinkChosen, this, guardedSlot(this, &HelpWindow::openOutside));
   resize(kUsualSize);
 }
 
@@ -68,11 +68,9 @@ void HelpWindow::addSidePane() {
   side_->setDocumentMode(true);
   side_->addTab(contents_, QStringLiteral("&Contents"));
   side_->addTab(indexPane_, QStringLiteral("&Index"));
-  const auto follow = [this](const QString& reference) {
-    page_->showPage(shelf_.urlOf(file_, fromQString(reference)));
-  };
-  connect(contents_, &SitemapTree::chosen, this, follow);
-  connect(index_, &SitemapTree::chosen, this, follow);
+  for (const auto* const tree : {contents_, index_}) {
+    connect(tree, &SitemapTree::chosen, this, guardedSlot(this, &HelpWindow::showReference));
+  }
   connect(sought, &QLineEdit::textChanged, index_, &SitemapTree::setFilter);
   connect(sought, &QLineEdit::returnPressed, index_, [this] { index_->setFocus(); });
 }
@@ -106,7 +104,7 @@ void HelpWindow::addTools() {
   connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
   connect(back, &QAction::triggered, page_, &QTextBrowser::backward);
   connect(forward, &QAction::triggered, page_, &QTextBrowser::forward);
-  connect(home_, &QAction::triggered, this, &HelpWindow::goHome);
+  connect(home_, &QAction::triggered, this, guardedSlot(this, &HelpWindow::goHome));
   connect(find, &QAction::triggered, findBar_, &FindBar::open);
 }
 

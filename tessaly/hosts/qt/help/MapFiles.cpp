@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tessaly/base/Ascii.h"
+
 namespace tessaly::qt {
 namespace {
 
@@ -23,13 +25,6 @@ std::u16string_view takeWord(std::u16string_view& line) {
   return word;
 }
 
-/// The value of a digit; 16 for what is none.
-std::uint32_t digitValue(char16_t unit) {
-  if (unit >= u'0' && unit <= u'9') return unit - std::uint32_t{u'0'};
-  const auto letter = static_cast<char16_t>(unit | 0x20);
-  return letter >= u'a' && letter <= u'f' ? letter - std::uint32_t{u'a'} + 10 : 16;
-}
-
 /// A number as a header file has it, decimal or with "0x"; its sign and size as the 32 bits come.
 std::optional<std::uint32_t> numberOf(std::u16string_view word) {
   const bool isNegative = word.starts_with(u'-');
@@ -40,8 +35,8 @@ std::optional<std::uint32_t> numberOf(std::u16string_view word) {
   std::uint32_t number = 0;
   for (const char16_t unit : word) {
     const std::uint32_t base = isHex ? 16 : 10;
-    if (digitValue(unit) >= base) return {};
-    number = number * base + digitValue(unit);
+    if (hexDigitValue(unit) >= base) return {};
+    number = number * base + hexDigitValue(unit);
   }
   return isNegative ? 0 - number : number;
 }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "tessaly/base/Ascii.h"
 #include "tessaly/hosts/qt/help/MarkupTags.h"
 
 namespace tessaly::qt {
@@ -23,17 +24,11 @@ constexpr std::array kNamed{
     NamedUnit{u"Auml", u'\u00C4'},  NamedUnit{u"Ouml", u'\u00D6'},   NamedUnit{u"Uuml", u'\u00DC'},
     NamedUnit{u"szlig", u'\u00DF'}, NamedUnit{u"eacute", u'\u00E9'}, NamedUnit{u"egrave", u'\u00E8'}};
 
-unsigned digitOf(char16_t unit) {
-  if (unit >= u'0' && unit <= u'9') return unit - unsigned{u'0'};
-  const auto letter = static_cast<char16_t>(unit | 0x20);
-  return letter >= u'a' && letter <= u'f' ? letter - unsigned{u'a'} + 10 : 16;
-}
-
 String characterOf(std::u16string_view digits, unsigned base) {
   char32_t code = 0;
   for (const char16_t unit : digits) {
-    if (digitOf(unit) >= base || code > 0x10FFFF) return {};
-    code = code * base + digitOf(unit);
+    if (hexDigitValue(unit) >= base || code > 0x10FFFF) return {};
+    code = code * base + hexDigitValue(unit);
   }
   const bool isSurrogate = code >= 0xD800 && code < 0xE000;
   if (digits.empty() || code == 0 || code > 0x10FFFF || isSurrogate) return {};

@@ -2,20 +2,12 @@
 
 #include <algorithm>
 
+#include "tessaly/base/Ascii.h"
+
 namespace tessaly::qt {
 namespace {
 
 constexpr std::u16string_view kBlanks = u" \t\r\n\f";
-
-char16_t lowerUnit(char16_t unit) {
-  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
-}
-
-String lowerText(std::u16string_view text) {
-  String lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(), lowerUnit);
-  return lower;
-}
 
 bool isQuote(char16_t unit) { return unit == u'"' || unit == u'\''; }
 
@@ -70,7 +62,7 @@ class Attributes {
 
 std::optional<String> MarkupTag::attribute(std::u16string_view attributeName) const {
   for (Attributes attributes(rest); attributes.next();) {
-    if (lowerText(attributes.name) == attributeName) return withoutEntities(attributes.value);
+    if (asciiLowerText(attributes.name) == attributeName) return withoutEntities(attributes.value);
   }
   return {};
 }
@@ -110,7 +102,7 @@ std::optional<MarkupTag> MarkupTags::next() {
     const std::u16string_view tag = text_.substr(start, end - start);
     at_ = end + 1;
     const std::size_t behindName = std::min(tag.find_first_of(kBlanks), tag.size());
-    return MarkupTag{lowerText(tag.substr(0, behindName)), tag.substr(behindName)};
+    return MarkupTag{asciiLowerText(tag.substr(0, behindName)), tag.substr(behindName)};
   }
   at_ = text_.size();
   return {};

@@ -72,4 +72,9 @@ QString noticeFor(const HelpShelf& shelf, const QUrl& url) {
               QStringLiteral("The file is no help file, or parts of it are missing or wrong."), rows);
 }
 
+QString noticeOfFailure() {
+  return page(QStringLiteral("The page cannot be shown"),
+              QStringLiteral("There is not enough memory for it, or something else went wrong."), QString());
+}
+
 }  // namespace tessaly::qt

@@ -12,4 +12,7 @@ namespace tessaly::qt {
 /// map number, the page is damaged, or the address tells of a link that leads where the viewer does not go.
 QString noticeFor(const HelpShelf& shelf, const QUrl& url);
 
+/// For a page that could not be read for want of memory.
+QString noticeOfFailure();
+
 }  // namespace tessaly::qt

@@ -2,24 +2,18 @@
 
 #include <algorithm>
 
+#include "tessaly/base/Ascii.h"
 #include "tessaly/base/Text.h"
 
 namespace tessaly::qt {
 namespace {
 
-int hexDigit(char16_t unit) {
-  if (unit >= u'0' && unit <= u'9') return unit - u'0';
-  if (unit >= u'A' && unit <= u'F') return unit - u'A' + 10;
-  if (unit >= u'a' && unit <= u'f') return unit - u'a' + 10;
-  return -1;
-}
-
 /// The byte that an escape at this place stands for, or -1.
 int escapedByte(std::u16string_view text, std::size_t at) {
   if (text[at] != u'%' || text.size() - at < 3) return -1;
-  const int high = hexDigit(text[at + 1]);
-  const int low = hexDigit(text[at + 2]);
-  return high < 0 || low < 0 ? -1 : high * 16 + low;
+  const std::uint32_t high = hexDigitValue(text[at + 1]);
+  const std::uint32_t low = hexDigitValue(text[at + 2]);
+  return high > 15 || low > 15 ? -1 : static_cast<int>(high * 16 + low);
 }
 
 PageReference splitAt(std::u16string_view text, std::size_t at) {

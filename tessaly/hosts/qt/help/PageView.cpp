@@ -3,10 +3,13 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <array>
+#include <new>
 
 #include "tessaly/hosts/qt/Text.h"
+#include "tessaly/hosts/qt/help/GuardedSlot.h"
 #include "tessaly/hosts/qt/help/HelpAddress.h"
 #include "tessaly/hosts/qt/help/Notices.h"
 #include "tessaly/hosts/qt/help/PageText.h"
@@ -70,19 +73,30 @@ bool leadsIntoArchive(const QUrl& url) {
   return namesArchive(fromQString(url.toString()));
 }
 
+bool hasAnchor(const QTextDocument& document, const QString& name) {
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    for (auto at = block.begin(); !at.atEnd(); ++at) {
+      if (at.fragment().charFormat().anchorNames().contains(name)) return true;
+    }
+  }
+  return false;
+}
+
 }  // namespace
 
-PageView::PageView(HelpShelf& shelf, QWidget* parent) : QTextBrowser(parent), shelf_(shelf) {
+PageView::PageView(HelpShelf& shelf, QWidget* parent)
+    : QTextBrowser(parent), shelf_(shelf), failure_(noticeOfFailure()), missingPicture_(missingPicture()) {
   setPalette(paper(palette()));
   setFrameShape(QFrame::NoFrame);
   setOpenLinks(false);
-  setAccessibleName(tr("Page"));
+  setAccessibleName(QStringLiteral("Page"));
   document()->setDocumentMargin(kMargin);
   // What pages leave open, as it reads well.
   document()->setDefaultStyleSheet(
       QStringLiteral("p, li, dd, td { line-height: 115%; } li { margin-bottom: 4px; }"));
-  connect(this, &QTextBrowser::anchorClicked, this, &PageView::follow);
+  connect(this, &QTextBrowser::anchorClicked, this, guardedSlot(this, &PageView::follow));
   connect(this, &QTextBrowser::sourceChanged, this, &PageView::turnToReading);
+  connect(this, &QTextBrowser::sourceChanged, this, guardedSlot(this, &PageView::goToAnchor));
 }
 
 void PageView::showPage(const QUrl& url) {
@@ -91,13 +105,38 @@ void PageView::showPage(const QUrl& url) {
   if (isShown) reload();
 }
 
+// Qt looks for an anchor as it is written in the address, where a '%' has an escape of its own, and a link
+// may have escapes where the page has none.
+void PageView::goToAnchor(const QUrl& url) {
+  const String anchor = fromQString(url.fragment(QUrl::FullyDecoded));
+  for (const String& name : {anchor, percentDecoded(anchor)}) {
+    if (name.empty() || !hasAnchor(*document(), toQString(name))) continue;
+    scrollToAnchor(toQString(name));
+    return;
+  }
+}
+
 void PageView::turnToReading() {
   QTextOption option = document()->defaultTextOption();
   option.setTextDirection(isRightToLeft_ ? Qt::RightToLeft : Qt::LayoutDirectionAuto);
   document()->setDefaultTextOption(option);
 }
 
-QVariant PageView::loadResource(int type, const QUrl& name) {
+// Qt asks for it while it puts a page together, and no exception may pass through that.
+QVariant PageView::loadResource(int type, const QUrl& name) try {
+  return resource(type, name);
+} catch (const RuntimeError&) {
+  return spareResource(type);
+} catch (const std::bad_alloc&) {
+  return spareResource(type);
+}
+
+QVariant PageView::spareResource(int type) const {
+  if (type == QTextDocument::HtmlResource) return failure_;
+  return type == QTextDocument::ImageResource ? QVariant(missingPicture_) : QVariant(QString());
+}
+
+QVariant PageView::resource(int type, const QUrl& name) {
   const QUrl url = name.isRelative() ? source().resolved(name) : name;
   if (type == QTextDocument::HtmlResource) {
     pictures_ = 0;
@@ -129,14 +168,14 @@ QString PageView::html(const QUrl& url) const {
 
 /// Pictures take room as long as the page is shown, and each name of one takes it again.
 QVariant PageView::picture(const QUrl& url) {
-  if (pictureBytes_ >= kMostPictureBytes || ++pictures_ > kMostPictures) return missingPicture();
+  if (pictureBytes_ >= kMostPictureBytes || ++pictures_ > kMostPictures) return missingPicture_;
   const HelpBook* const book = shelf_.book(HelpShelf::numberOf(url));
   const auto page = book != nullptr ? book->find(HelpShelf::referenceOf(url)) : std::nullopt;
   const auto bytes = page ? book->read(page->page) : std::nullopt;
-  if (!bytes) return missingPicture();
+  if (!bytes) return missingPicture_;
   const QImage image = decoded(*bytes);
   pictureBytes_ += static_cast<qsizetype>(bytes->size()) + image.sizeInBytes();
-  return image.isNull() ? missingPicture() : image;
+  return image.isNull() ? missingPicture_ : image;
 }
 
 void PageView::follow(const QUrl& url) {

@@ -3,17 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "tessaly/base/Ascii.h"
 #include "tessaly/hosts/qt/help/MarkupTags.h"
 
 namespace tessaly::qt {
 namespace {
 
 /// The names of parameters come in any case.
-bool isNamed(const String& name, std::u16string_view wanted) {
-  return std::equal(name.begin(), name.end(), wanted.begin(), wanted.end(), [](char16_t a, char16_t b) {
-    return (a >= u'A' && a <= u'Z' ? a + (u'a' - u'A') : a) == b;
-  });
-}
+bool isNamed(const String& name, std::u16string_view wanted) { return asciiLowerText(name) == wanted; }
 
 constexpr std::size_t kLongestTitle = 512;
 constexpr std::size_t kLongestReference = 2048;

@@ -3,6 +3,7 @@
 #include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
 
+#include "tessaly/hosts/qt/ShownText.h"
 #include "tessaly/hosts/qt/Text.h"
 #include "tessaly/hosts/qt/help/PagePath.h"
 
@@ -53,7 +54,7 @@ void SitemapTree::setEntries(const std::vector<SitemapEntry>& entries) {
     auto* const line = above.empty() ? new QTreeWidgetItem : new QTreeWidgetItem(above.back());
     if (above.empty()) roots.push_back(line);
     line->setText(0, toQString(entry.title).simplified());
-    line->setToolTip(0, line->text(0).toHtmlEscaped());
+    line->setToolTip(0, toolTipOf(line->text(0)));
     line->setData(0, kReference, toQString(entry.page));
     above.push_back(line);
   }

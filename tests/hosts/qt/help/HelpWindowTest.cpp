@@ -95,6 +95,14 @@ TEST_F(QtHelpWindowTest, LinksToTheOutsideGoToTheShell) {
   EXPECT_TRUE(shows("Where to read on"));
 }
 
+TEST_F(QtHelpWindowTest, ALinkToTheOutsideIsNeverTakenForAnArchive) {
+  const std::string address = "https://www.example.com/a.chm::/b.html?x=1::2&y=%20#c::d";
+  emit page().anchorClicked(QUrl(QString::fromStdString(address)));
+  ASSERT_EQ(fakeShell_.opened().size(), 1U);
+  EXPECT_EQ(fakeShell_.opened().front().file, address);
+  EXPECT_TRUE(shows("Where to read on"));
+}
+
 TEST_F(QtHelpWindowTest, LinksToFilesAndProgramsAreNotOpened) {
   for (const char* const link : {"file:///etc/passwd", "x-program:run?a=1&b=2#c"}) {
     emit page().anchorClicked(QUrl(link));
@@ -217,6 +225,41 @@ TEST_F(QtHelpWindowTest, ItStaysUsableWhileADialogBlocksItsHost) {
   settle();
   click("Settings");
   EXPECT_TRUE(shows("Reports are looked for"));
+}
+
+// Qt looked for the first of two windows that stood before each other, and never came back.
+TEST_F(QtHelpWindowTest, ItStandsBeforeNoWindowThatStandsBeforeIt) {
+  QDialog first(&window());
+  first.setModal(true);
+  first.show();
+  settle();
+  EXPECT_EQ(first.windowHandle()->transientParent(), window().windowHandle());
+  EXPECT_EQ(window().windowHandle()->transientParent(), nullptr);
+  QDialog second(&first);
+  second.setModal(true);
+  second.show();
+  settle();
+  show(kGuide, 0, 0, static_cast<platform::WindowHandle>(first.winId()));
+  show(kGuide, 0, 0, static_cast<platform::WindowHandle>(second.winId()));
+  EXPECT_EQ(window().windowHandle()->transientParent(), nullptr);
+}
+
+TEST_F(QtHelpWindowTest, ItStandsBeforeTheWindowThatAsksLast) {
+  QWidget form;
+  QWidget other;
+  for (QWidget* const owner : {&form, &other, &form}) {
+    owner->show();
+    show(kGuide, 0, 0, static_cast<platform::WindowHandle>(owner->winId()));
+    EXPECT_EQ(window().windowHandle()->transientParent(), owner->windowHandle());
+  }
+  show(kGuide, 0, 0, static_cast<platform::WindowHandle>(window().winId()));
+  EXPECT_EQ(window().windowHandle()->transientParent(), form.windowHandle());
+  QDialog before(&window());
+  before.setModal(true);
+  before.show();
+  settle();
+  show(kGuide, 0, 0, static_cast<platform::WindowHandle>(before.winId()));
+  EXPECT_EQ(window().windowHandle()->transientParent(), form.windowHandle());
 }
 
 TEST_F(QtHelpWindowTest, ItIsNoReasonForTheProgramToGoOn) {

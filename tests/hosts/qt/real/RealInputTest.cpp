@@ -169,6 +169,28 @@ TEST_F(QtRealInputTest, AModalDialogMayBeShownInAClick) {
   waitFor("dialog closed");
 }
 
+// The release went to the dialog, and the clicks went on behind it for ever.
+TEST_F(QtRealInputTest, AModalDialogInAnAutomaticClickEndsThePress) {
+  start({"clicks-automatically", "shows-a-dialog"});
+  hover();
+  display().press();
+  waitFor("dialog open");
+  display().release();
+  display().move(kOnDialog);
+  waitFor("timers none");
+  display().press();
+  waitFor("dialog closed");
+  waitFor("MouseUp -1,-1");
+  EXPECT_EQ(count(waitFor("shows idle"), "timers 60"), 0);
+  display().release();
+  click();
+  EXPECT_EQ(count(waitFor("OnButtonClick"), "OnButtonSelected"), 1);
+  waitFor("dialog open");
+  display().move(kOnDialog);
+  display().press();
+  waitFor("dialog closed");
+}
+
 TEST_F(QtRealInputTest, AHandlerMaySetEnabledFalse) {
   start({"disables"});
   pressOn();

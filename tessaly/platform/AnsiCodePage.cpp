@@ -1,4 +1,4 @@
-#include "tessaly/platform/linux/AnsiCodePage.h"
+#include "tessaly/platform/AnsiCodePage.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@ namespace {
 /// Western Europe's. Windows has no page for some languages, such as Hindi and Georgian. None of them was
 /// ever a system's own, so their users have the page of a system in another language, and this is the most
 /// common.
-constexpr Long kWestern = 1252;
+constexpr Long kWesternEurope = 1252;
 
 struct Row {
   Long number;
@@ -27,13 +27,27 @@ constexpr std::array kLanguages{
     Row{0x80, 1256}, Row{0x85, 1251}, Row{0x8C, 1256}, Row{0x92, 1256}};
 
 /// Languages in a country, where the script is not the language's usual one.
-constexpr std::array kCountries{Row{0x0404, 950},      Row{0x0C04, 950},      Row{0x1404, 950},
-                                Row{0x7C04, 950},      Row{0x0C1A, 1251},     Row{0x1C1A, 1251},
-                                Row{0x201A, 1251},     Row{0x281A, 1251},     Row{0x301A, 1251},
-                                Row{0x641A, 1251},     Row{0x6C1A, 1251},     Row{0x082C, 1251},
-                                Row{0x742C, 1251},     Row{0x0843, 1251},     Row{0x7843, 1251},
-                                Row{0x0846, 1256},     Row{0x7C46, 1256},     Row{0x0459, kWestern},
-                                Row{0x0850, kWestern}, Row{0x0C50, kWestern}, Row{0x7C50, kWestern}};
+constexpr std::array kCountries{Row{0x0404, 950},
+                                Row{0x0C04, 950},
+                                Row{0x1404, 950},
+                                Row{0x7C04, 950},
+                                Row{0x0C1A, 1251},
+                                Row{0x1C1A, 1251},
+                                Row{0x201A, 1251},
+                                Row{0x281A, 1251},
+                                Row{0x301A, 1251},
+                                Row{0x641A, 1251},
+                                Row{0x6C1A, 1251},
+                                Row{0x082C, 1251},
+                                Row{0x742C, 1251},
+                                Row{0x0843, 1251},
+                                Row{0x7843, 1251},
+                                Row{0x0846, 1256},
+                                Row{0x7C46, 1256},
+                                Row{0x0459, kWesternEurope},
+                                Row{0x0850, kWesternEurope},
+                                Row{0x0C50, kWesternEurope},
+                                Row{0x7C50, kWesternEurope}};
 
 template <class Rows>
 Long pageIn(const Rows& rows, Long number, Long otherwise) {
@@ -44,7 +58,7 @@ Long pageIn(const Rows& rows, Long number, Long otherwise) {
 }  // namespace
 
 Long ansiCodePage(Long lcid) {
-  return pageIn(kCountries, lcid & 0xFFFF, pageIn(kLanguages, lcid & 0x3FF, kWestern));
+  return pageIn(kCountries, lcid & 0xFFFF, pageIn(kLanguages, lcid & 0x3FF, kWesternEurope));
 }
 
 }  // namespace tessaly::platform

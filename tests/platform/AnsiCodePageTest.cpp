@@ -1,4 +1,4 @@
-#include "tessaly/platform/linux/AnsiCodePage.h"
+#include "tessaly/platform/AnsiCodePage.h"
 
 #include <gtest/gtest.h>
 
