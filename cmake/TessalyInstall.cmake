@@ -59,6 +59,9 @@ endfunction()
 
 # tessaly_install_tool(<name>): a command-line tool with its manual page, which Windows has no use for.
 function(tessaly_install_tool name)
+  # It finds the library beside it, wherever the installation is.
+  file(RELATIVE_PATH way "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN/${way}")
   install(TARGETS ${name} RUNTIME COMPONENT tools)
   if(NOT WIN32)
     install(FILES ${name}.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tools)

@@ -1,38 +1,52 @@
-// A Qt host with help and message boxes: one object puts them into force. The help file here is that of the
-// tests; a host has its own beside its program, and names a dialog's page.
+// A Qt host with help and message boxes: one object puts them into force. The help file is that of the tests,
+// and the settings that name its folder are a stand-in's, so that those of the machine stay as they are.
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QTimer>
 
 #include "examples/support/Print.h"
+#include "tessaly/dialogs/CHelp.h"
+#include "tessaly/dialogs/modMsgBoxW.h"
 #include "tessaly/hosts/qt/Dialogs.h"
 #include "tessaly/hosts/qt/Text.h"
-#include "tessaly/platform/Desktop.h"
+#include "tessaly/platform/Core.h"
+#include "tessaly/platform/fake/Registry.h"
+#include "tessaly/settings/CRegistry.h"
 
 using examples::printLine;
+using tessaly::False;
 using tessaly::Long;
+using tessaly::True;
 using tessaly::qt::fromQString;
-namespace platform = tessaly::platform;
 
 namespace {
 
-constexpr const char* kPage = "tests/hosts/qt/help/guide.chm::/Settings.html#language";
-constexpr const char* kMissing = "nowhere.chm::/Overview.html";
-
-/// Yes or no, where No is what Return presses, with a question mark.
+/// Yes and No with a question mark, and No for who presses Return.
 constexpr Long kQuestion = 0x124;
+constexpr std::int16_t kF1 = 112;
 
-void showHelp(const char* page) {
-  const auto window =
-      platform::desktop().htmlHelp->HtmlHelpA(0, page, platform::help_command::kDisplayTopic, 0);
-  const QWidget* const viewer = QWidget::find(static_cast<WId>(window));
-  printLine(u"The viewer is named ", fromQString(viewer->windowTitle()));
-  const QString text = viewer->findChild<QTextBrowser*>()->toPlainText();
-  printLine(u"It begins with: ", fromQString(text.section(u'\n', 0, 0)));
+/// What an installer does.
+void installHelp(const QTemporaryDir& folder) {
+  QFile::copy("tests/hosts/qt/help/guide.chm", folder.filePath("Tessaly.chm"));
+  tessaly::CRegistry settings;
+  settings.root(0);  // HKEY_LOCAL_MACHINE
+  settings.rootPath(u"SOFTWARE\\BRAMWELD SYSTEM\\Tessaly");
+  settings.SetString(u"Path", fromQString(folder.path()));
+}
+
+void tellWhatIsShown() {
+  for (const QWidget* const window : QApplication::topLevelWidgets()) {
+    const auto* const page = window->findChild<QTextBrowser*>();
+    if (page == nullptr || !window->isVisible()) continue;
+    printLine(u"The viewer is named ", fromQString(window->windowTitle()));
+    printLine(u"It begins with: ", fromQString(page->toPlainText().section(u'\n', 0, 0)));
+  }
 }
 
 /// Where there is no display nobody can answer, so the program does.
@@ -51,12 +65,17 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   const tessaly::qt::Dialogs dialogs;
 
-  showHelp(kPage);
-  showHelp(kMissing);
+  tessaly::platform::fake::Registry registry;
+  const tessaly::platform::Override registryInForce(registry);
+  const QTemporaryDir folder;
+  installHelp(folder);
+
+  tessaly::CHelp help;
+  if (help.HelpKey(kF1, 0)) help.ShowTopic(0, u"Settings", u"language", False, True);
+  tellWhatIsShown();
+  help.ShowTopic(0, u"Nowhere", u"", False, True);
+  tellWhatIsShown();
 
   answerLater();
-  platform::MessageBoxes& boxes = *platform::desktop().messageBoxes;
-  const Long answer =
-      boxes.MessageBoxW(boxes.GetActiveWindow(), u"Удалить отчёт <b>?</b>", u"Reports", kQuestion);
-  printLine(u"The answer is ", answer);
+  printLine(u"The answer is ", tessaly::MsgBoxW(u"Удалить отчёт <b>?</b>", kQuestion, u"Reports"));
 }

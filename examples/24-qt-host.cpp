@@ -40,6 +40,7 @@ int main(int argc, char** argv) {
   const tessaly::qt::Dialogs dialogs;  // message boxes and help
 
   tessaly::CResources texts;
+  texts.applicationGUID(u"CA2C7606-C0B7-47c8-A153-F1FC278BBEB3");  // whose files: the showcase's
   texts.resourcesPath(u"examples/showcase/languages");
   texts.SetDefaultLang();  // the user's language, or English
 
@@ -49,9 +50,12 @@ int main(int argc, char** argv) {
 
   auto* const save = new PictureButton(&window);
   save->Picture(QPixmap("examples/contact-sheet/pictures/save.png"));
-  save->withBorder(1);
+  save->backcolor(0xF0F0F0);  // black if it is not told
+  save->withBorder(1);        // above 0 it answers to the pointer
   QObject::connect(save, &PictureButton::OnButtonClick, [&] {
-    if (tessaly::MsgBoxW(texts.resWithArg(154, u"Sales.rep", u""), 0x24, u"") == 6) window.close();
+    const auto question = texts.resWithArg(154, u"Sales.rep", u"");  // "Save the changes to Sales.rep?"
+    // Yes and No with a question mark; 6 is Yes.
+    if (tessaly::MsgBoxW(question, 0x24, u"") == 6) window.close();
   });
   layout->addWidget(save);
 

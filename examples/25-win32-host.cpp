@@ -45,6 +45,7 @@ int main() {
   win32::registerControls(program);
 
   tessaly::CResources texts;
+  texts.applicationGUID(u"CA2C7606-C0B7-47c8-A153-F1FC278BBEB3");  // whose files: the showcase's
   texts.resourcesPath(u"examples\\showcase\\languages");
   texts.SetDefaultLang();  // the user's language, or English
 
@@ -56,9 +57,12 @@ int main() {
                                       20, 16, 32, 32, form, nullptr, program, nullptr);
   auto& save = *win32::pictureButtonOf(button);
   save.Picture(tessaly::LoadPicture(u"examples/contact-sheet/pictures/save.png"));
-  save.withBorder(1);
+  save.backcolor(0xF0F0F0);  // black if it is not told
+  save.withBorder(1);        // above 0 it answers to the pointer
   save.events.OnButtonClick = [&] {
-    if (tessaly::MsgBoxW(texts.resWithArg(154, u"Sales.rep", u""), 0x24, u"") == 6) PostQuitMessage(0);
+    const auto question = texts.resWithArg(154, u"Sales.rep", u"");  // "Save the changes to Sales.rep?"
+    // Yes and No with a question mark; 6 is Yes.
+    if (tessaly::MsgBoxW(question, 0x24, u"") == 6) PostQuitMessage(0);
   };
 
   const HWND label = CreateWindowExW(0, win32::kUrlLinkClass, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 20, 64,

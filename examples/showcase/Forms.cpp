@@ -28,8 +28,7 @@ void showForm(const Screen& screen, CResources& resources, const std::vector<Lon
 }  // namespace
 
 void showMenu(const Screen& screen, CResources& resources) {
-  showHeading(screen, u"The File menu",
-              u"the letters of its accelerator keys underlined where a terminal can");
+  showHeading(screen, u"The File menu", u"by the numbers of its texts, in each language that has a file");
   showForm(screen, resources, {FileMenu, OpenFile, PrintFile, PrintPreview, ExitProgram});
 }
 

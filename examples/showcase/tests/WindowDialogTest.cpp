@@ -249,7 +249,9 @@ TEST_F(WindowDialogTest, TheTraceIsSwitchedInTheMachinesSettings) {
   };
   changeSettings(switchOn);
   EXPECT_TRUE(writesTrace());
-  EXPECT_TRUE(boxes.boxes().empty());
+  EXPECT_EQ(lastBox().text, u"The change takes effect when the program starts again.");
+  changeSettings(switchOn);
+  EXPECT_EQ(boxes.boxes().size(), 1U);
 }
 
 TEST_F(WindowDialogTest, ATraceThatTheUserMayNotSwitchIsTold) {

@@ -196,7 +196,7 @@ TEST_F(WindowTest, TheRoadLeavesSettingsAndFilesAsTheyWere) {
     said += tessaly::toUtf8(String(step) + u": " + outcome + u"\n");
   });
   EXPECT_NE(said.find("link: https://www.example.com/reports/\n"), std::string::npos) << said;
-  EXPECT_NE(said.find("help: Tessaly.chm::/about.html\n"), std::string::npos) << said;
+  EXPECT_NE(said.find("help: Tessaly.chm::/settings.html\n"), std::string::npos) << said;
   EXPECT_EQ(loadPreferences(), Preferences());
   EXPECT_EQ(Shelf(folder.text()).read(u"Sales.rep").rows, before);
   EXPECT_EQ(window->events.size(), reports->events());

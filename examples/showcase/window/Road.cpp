@@ -51,6 +51,7 @@ class Walk {
     fillForm();
     answerBox();
     clickLink();
+    askForHelp();
     pictures_.window = window_.picture();
     return pictures_;
   }
@@ -70,14 +71,15 @@ class Walk {
     for (const Tool tool : {Tool::Larger, Tool::Smaller}) window_.press(reports_.button(tool));
     writeInNext(u"sales@example.com");
     window_.press(reports_.button(Tool::Mail));
-    say_(u"tool bar", lastBox());
+    say_(u"mail", lastBox() + u" (as if)");
     writeInNext(u"bonus");
     window_.press(reports_.button(Tool::Filter));
     say_(u"filter",
          resources_.resWithArg(RowsSelectedOf, reports_.report().seenCount(), reports_.report().rowCount()));
     choose(Command::RemoveFilter);
     holdUntilPage(1 + kTurnedPages);
-    say_(u"held button", resources_.resWithArg(PageOf, reports_.report().page(), reports_.report().pages()));
+    say_(u"held button", resources_.resWithArg(PageOf, reports_.report().page(), reports_.report().pages()) +
+                             u", by clicks that repeat");
   }
 
   void holdUntilPage(Long page) {
@@ -93,12 +95,14 @@ class Walk {
   void sortAndFind() {
     window_.clickHeading(kAmount);
     window_.clickHeading(kAmount);
-    say_(u"sorted", reports_.report().pageRows()[0].cell(Column::Owner) + u", " +
+    say_(u"sorted", u"by amount, first " + reports_.report().pageRows()[0].cell(Column::Owner) + u", " +
                         reports_.report().pageRows()[0].cell(Column::Amount));
     writeInNext(u"discount");
     choose(Command::Find);
-    say_(u"found", reports_.report().seenRows()[static_cast<std::size_t>(reports_.report().selected())].cell(
-                       Column::Comment));
+    say_(u"found",
+         u"a comment with \"discount\": " +
+             reports_.report().seenRows()[static_cast<std::size_t>(reports_.report().selected())].cell(
+                 Column::Comment));
   }
 
   /// To the list's last language and back.
@@ -127,24 +131,32 @@ class Walk {
       user.press(Dialog::kOk);
     });
     choose(Command::Settings);
-    say_(u"form", resources_.res(SettingsTitle) + u", " + textOf(loadPreferences().gridFontSize) + u" pt");
+    say_(u"form", resources_.res(SettingsTitle) + u", with a font of " +
+                      textOf(loadPreferences().gridFontSize) + u" points from now on");
   }
 
   void answerBox() {
     choose(Command::DeleteReport);
-    say_(u"message", lastBox());
+    say_(u"message", lastBox() + u" No");
   }
 
   void clickLink() {
     window_.visitNextDialog([this](DialogUser& user) {
       user.click(kLinkField);
-      user.key(kF1, 0);
-      pictures_.help = window_.helpPicture();
       user.press(Dialog::kCancel);
     });
     choose(Command::About);
     const auto& opened = unseen_.shell.opened();
     say_(u"link", opened.empty() ? u"" : tessaly::fromUtf8(opened.back().file.value_or("")));
+  }
+
+  void askForHelp() {
+    window_.visitNextDialog([this](DialogUser& user) {
+      user.key(kF1, 0);
+      pictures_.help = window_.helpPicture();
+      user.press(Dialog::kCancel);
+    });
+    choose(Command::Settings);
     say_(u"help", lastHelp());
   }
 

@@ -32,7 +32,7 @@ class SettingsForm {
   }
 
  private:
-  enum Place { Language, Numbers, Font, Size, Trace, TraceNote };
+  enum Place { Language, Numbers, Font, Size, Trace };
 
   String text(Text slot) const { return desk_.resources().res(slot); }
   Field& field(Place place) { return dialog_.fields[place]; }
@@ -44,8 +44,7 @@ class SettingsForm {
         {.kind = Field::Kind::Check, .label = text(ShowStringNumbers)},
         {.kind = Field::Kind::Text, .label = text(GridFont)},
         {.kind = Field::Kind::Text, .label = text(FontSize)},
-        {.kind = Field::Kind::Check, .label = text(WriteATrace)},
-        {.kind = Field::Kind::Words, .text = text(ChangeAtNextStart)}};
+        {.kind = Field::Kind::Check, .label = text(WriteATrace)}};
   }
 
   std::vector<String> languageNames() const {
@@ -88,7 +87,11 @@ class SettingsForm {
   /// The machine's settings are seldom the user's to change.
   bool takeTrace() {
     const bool isOn = field(Trace).number != 0;
-    if (isOn == writesTrace() || setWritesTrace(isOn)) return true;
+    if (isOn == writesTrace()) return true;
+    if (setWritesTrace(isOn)) {
+      desk_.show(Desk::kTell, {ChangeAtNextStart});
+      return true;
+    }
     desk_.show(Desk::kWarning, {NoPermission, u"HKEY_LOCAL_MACHINE\\" + String(kMachineKey)});
     field(Trace).number = isOn ? 0 : 1;
     return false;

@@ -103,7 +103,7 @@ void walkAndDraw(Window& window, CResources& resources, const Preferences& prefe
     sayStep(u"trace", traceState());
     window.close();
     window.run();
-    sayStep(u"closed", unseen.boxes.boxes().back().text);
+    sayStep(u"closed", unseen.boxes.boxes().back().text + u" No");
     save(pictures.window, file);
     save(pictures.settings, besides(file, u"settings"));
     save(pictures.help, besides(file, u"help"));
