@@ -90,7 +90,7 @@ TEST_F(WindowDialogTest, AReportThatCantBeSavedIsTold) {
 TEST_F(WindowDialogTest, AReportIsDeletedOnlyWhenTheUserSaysYes) {
   choose(Command::DeleteReport);
   EXPECT_EQ(lastBox().text, u"Delete the report Sales.rep? This can't be undone.");
-  EXPECT_EQ(lastBox().type, 0x134);
+  EXPECT_EQ(lastBox().type, 0x104);
   EXPECT_TRUE(std::filesystem::exists(folder.path() / "Sales.rep"));
   boxes.press(kYes);
   choose(Command::DeleteReport);
@@ -314,7 +314,7 @@ TEST_F(WindowDialogTest, TheLinkOfTheProgramIsOpenedAndListed) {
 
 TEST_F(ArabicDialogTest, MessageBoxesAreWrittenFromTheRight) {
   choose(Command::DeleteReport);
-  EXPECT_EQ(lastBox().type, 0x134 | 0x180000);
+  EXPECT_EQ(lastBox().type, 0x104 | 0x180000);
 }
 
 }  // namespace

@@ -147,5 +147,17 @@ TEST_F(WindowLanguageTest, ALanguageThatWasChosenIsThereAtTheNextStart) {
   EXPECT_TRUE(window->menus[0].text.ends_with(u"[21]"));
 }
 
+class ArabicAtTheStart : public WindowStage {
+ protected:
+  ArabicAtTheStart() : WindowStage(kArabic) {}
+};
+
+TEST_F(ArabicAtTheStart, ALanguageOfTheStartIsNotKept) {
+  choose(Command::ShowNumbers);
+  EXPECT_EQ(catalogue.resources.lang(), kArabic);
+  EXPECT_TRUE(loadPreferences().showsStringNumbers);
+  EXPECT_EQ(loadPreferences().language, 0);
+}
+
 }  // namespace
 }  // namespace showcase::tests

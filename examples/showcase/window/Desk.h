@@ -13,11 +13,11 @@ namespace showcase {
 class Desk {
  public:
   /// The flags of message boxes: something is wrong, mind this, and two questions whose answer at Return is
-  /// No, the first of them with a warning.
+  /// No, the second of them with a question mark.
   static constexpr tessaly::Long kTell = 0;
   static constexpr tessaly::Long kError = 0x10;
   static constexpr tessaly::Long kWarning = 0x30;
-  static constexpr tessaly::Long kConfirm = 0x134;
+  static constexpr tessaly::Long kConfirm = 0x104;
   static constexpr tessaly::Long kQuestion = 0x124;
 
   using Tell = std::function<void(std::u16string_view event, const Saying& comment)>;

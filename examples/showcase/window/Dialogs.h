@@ -30,7 +30,7 @@ std::optional<PrintOrder> askHowToPrint(const Desk& desk);
 /// The address that a report is to be mailed to.
 std::optional<tessaly::String> writeMail(const Desk& desk, std::u16string_view subject);
 
-/// Changes preferences; false where they stay. The trace is switched at once.
+/// Changes preferences; false where they stay. The trace is switched for the next start.
 bool editPreferences(const Desk& desk, Preferences& preferences);
 
 void showAbout(const Desk& desk);

@@ -101,7 +101,7 @@ void Reports::perform(Command command, std::u16string_view event) try {
 
 Saying Reports::chooseLanguage(Long place) {
   preferences_.language = languages(resources_).at(static_cast<std::size_t>(place));
-  keep();
+  keepAndSpeak(preferences_.language);
   return Saying(resources_.langName());
 }
 
@@ -110,15 +110,15 @@ void Reports::takeSelection() {
   if (row >= 0) report_.selectOnPage(row);
 }
 
-void Reports::keep() {
+void Reports::keepAndSpeak(Long language) {
   storePreferences(preferences_, resources_);
-  speakAs(resources_, preferences_.language, preferences_.showsStringNumbers);
+  speakAs(resources_, language, preferences_.showsStringNumbers);
   speak();
 }
 
 bool Reports::close() {
   if (!isSettled()) return false;
-  // A language that was asked for at the start is for this time alone.
+  // Another window of the tool may have changed the others.
   Preferences kept = loadPreferences();
   kept.report = report_.name();
   storePreferences(kept, resources_);

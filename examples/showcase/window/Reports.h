@@ -82,7 +82,7 @@ class Reports {
 
   Saying rowsShown() const;
   tessaly::String nameShown() const;
-  void keep();
+  void keepAndSpeak(tessaly::Long language);
   void speak();
   void show();
   void showRows();

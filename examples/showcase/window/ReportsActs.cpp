@@ -250,13 +250,14 @@ Saying Reports::zoomTo(Long percent) {
 
 Saying Reports::toggleNumbers() {
   preferences_.showsStringNumbers = !preferences_.showsStringNumbers;
-  keep();
+  // The language may be one of this time alone.
+  keepAndSpeak(resources_.lang());
   return Saying::named(ShowStringNumbers);
 }
 
 Saying Reports::changeSettings() {
   if (!editPreferences(desk_, preferences_)) return Ready;
-  keep();
+  keepAndSpeak(preferences_.language);
   return Done;
 }
 

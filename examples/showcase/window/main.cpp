@@ -54,13 +54,14 @@ String numbersOf(CResources& resources) {
   return list;
 }
 
-/// Chooses the language that is asked for, or else the user's; false where there is none of that number.
-bool chooseLanguage(CResources& resources, Preferences& preferences, const Options& options) {
+/// Chooses the language that is asked for, for this time alone, or else the user's; false where there is none
+/// of that number.
+bool chooseLanguage(CResources& resources, const Preferences& preferences, const Options& options) {
   const auto known = showcase::languages(resources);
-  preferences.language = options.language.value_or(preferences.language);
   if (options.language && std::find(known.begin(), known.end(), *options.language) == known.end())
     return false;
-  showcase::speakAs(resources, preferences.language, preferences.showsStringNumbers);
+  showcase::speakAs(resources, options.language.value_or(preferences.language),
+                    preferences.showsStringNumbers);
   return true;
 }
 
@@ -123,7 +124,7 @@ int runAs(const Options& options, int argc, char** argv) {
   showcase::traceStep(u"Tessaly Reports begins");
   CResources resources;
   showcase::start(resources);
-  Preferences preferences = showcase::loadPreferences();
+  const Preferences preferences = showcase::loadPreferences();
   if (!chooseLanguage(resources, preferences, options)) {
     return complain(u"There is no language " + textOf(*options.language) + u", only" + numbersOf(resources));
   }
