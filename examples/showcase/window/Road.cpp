@@ -71,7 +71,7 @@ class Walk {
     for (const Tool tool : {Tool::Larger, Tool::Smaller}) window_.press(reports_.button(tool));
     writeInNext(u"sales@example.com");
     window_.press(reports_.button(Tool::Mail));
-    say_(u"mail", lastBox() + u" (as if)");
+    say_(u"mail", lastBox() + u" (pretended)");
     writeInNext(u"bonus");
     window_.press(reports_.button(Tool::Filter));
     say_(u"filter",
