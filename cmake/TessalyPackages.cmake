@@ -36,6 +36,8 @@ set(soversion ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set(same "(= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 tessaly_deb(runtime libtessaly${soversion} "" "Language resources, settings, tracing and controls for desktop tools")
+# A link is opened by xdg-open.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS xdg-utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 tessaly_deb(tools tessaly-tools "libtessaly${soversion} ${same}" "Command-line tools for Tessaly's settings and traces")
 set(dev_needs "libtessaly${soversion} ${same}")
