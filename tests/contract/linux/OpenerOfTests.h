@@ -32,6 +32,9 @@ class OpenerOfTests final : public RecordingOpener {
     std::vector<std::string> words;
     std::string folder;
     std::string descriptors;
+
+    /// Those of the process that has started it, as long as that waits for it.
+    std::string descriptorsOfStarter;
     std::string blockedSignals;
     std::string ignoredSignals;
     bool leadsItsSession = false;
