@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,6 +45,7 @@ class OpenerOfTests final : public RecordingOpener {
   ~OpenerOfTests() override;
 
   std::string scheme() const override { return "tessaly-tests"; }
+  std::size_t sureLength() const override { return 30000; }
   std::string next() override { return nextStart().words.at(1); }
 
   /// Waits for its next start.
