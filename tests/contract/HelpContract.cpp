@@ -50,8 +50,12 @@ TEST_P(HelpShown, TakesALongText) {
   const std::string file(30000, 'x');
   askForHelp({0, file, help_command::kDisplayTopic, 0});
   const std::string shown = viewer()->shown().back().file;
-  EXPECT_EQ(shown, file.substr(0, shown.size()));
-  EXPECT_GE(shown.size(), 1000U);
+  if (GetParam() != Body::Toolkit) {
+    EXPECT_EQ(shown, file);
+  } else {
+    EXPECT_EQ(shown, file.substr(0, shown.size()));
+    EXPECT_GE(shown.size(), 1000U);
+  }
 }
 
 TEST_P(HelpShown, HasTheWindowThatTheViewerGives) {
@@ -63,7 +67,7 @@ TEST_P(HelpShown, HasTheWindowThatTheViewerGives) {
 }
 
 TEST_P(HelpShown, HasOneWindowForAllThatIsShown) {
-  viewer()->answer(viewer()->window());
+  if (GetParam() == Body::Own) GTEST_SKIP() << "this viewer has the window that a test gives it";
   const WindowHandle window = askForHelp({0, "a.chm::/Overview.html", help_command::kDisplayTopic, 0});
   EXPECT_NE(window, 0);
   EXPECT_EQ(askForHelp({0, "a.chm::/Overview.html", help_command::kDisplayContents, 0}), window);

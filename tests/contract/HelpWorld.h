@@ -45,8 +45,8 @@ class RecordingViewer {
   /// From now on the viewer's window is this one; false where it always has a window of its own.
   virtual bool answer(platform::WindowHandle viewer) = 0;
 
-  /// What was asked for, the latest at the end; a viewer that shows it has no more than that. Of a long text
-  /// there it may be the beginning.
+  /// What was asked for, the latest at the end; a viewer that shows it has no more than that, and of a
+  /// long text the beginning.
   virtual std::vector<HelpCall> shown() = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -17,6 +18,9 @@ class RecordingOpener {
 
   /// What addresses begin with that it opens, up to the ':'.
   virtual std::string scheme() const = 0;
+
+  /// How long an address may be at least that is opened.
+  virtual std::size_t sureLength() const = 0;
 
   /// Waits until something has been opened: what it was, in UTF-8.
   virtual std::string next() = 0;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tessaly/base/Text.h"
 #include "tessaly/controls/URLLink.h"
 #include "tessaly/forms/headless/Form.h"
@@ -54,7 +56,8 @@ TEST_F(LinkToShellTest, WhatTheHostPutsInItsPlaceArrivesInstead) {
 
 TEST_F(LinkToShellTest, ALongURLArrivesWhole) {
   if (underWine()) GTEST_SKIP() << "Wine: it writes over the end of its buffers";
-  const String url = address(String(2000, u'x'));
+  const String begin = address(u"");
+  const String url = begin + String(std::min<std::size_t>(opener_->sureLength(), 30000) - begin.size(), u'x');
   EXPECT_EQ(openedBy(url), toUtf8(url));
 }
 

@@ -8,7 +8,8 @@
 
 namespace tessaly::qt {
 
-/// A button of a box: the number that it answers, and what stands on it, Qt's own text where that is empty.
+/// A button of a box: the number that it answers, and what stands on it in English, Qt's own text where that
+/// is empty.
 struct BoxButton {
   Long result = 0;
   QMessageBox::StandardButton kind = QMessageBox::NoButton;

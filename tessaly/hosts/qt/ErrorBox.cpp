@@ -6,12 +6,12 @@
 #include <new>
 
 #include "tessaly/base/RuntimeError.h"
+#include "tessaly/hosts/qt/Words.h"
 
 namespace tessaly::qt {
 void showErrorLater(QWidget& widget, const RuntimeError& error) noexcept try {
   static QPointer<QMessageBox> open;
-  const QString text =
-      QStringLiteral("%1 (error %2)").arg(QString::fromUtf8(error.what())).arg(error.number());
+  const QString text = said("%1 (error %2)").arg(said(error.what()), QString::number(error.number()));
   if (open) {
     qWarning("%s", qPrintable(text));
     return;

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "tessaly/hosts/qt/ShownText.h"
+#include "tessaly/hosts/qt/Words.h"
 
 namespace tessaly::qt {
 
@@ -32,9 +33,8 @@ MessageBox::MessageBox(const BoxType& type, const QString& text, const QString& 
 
 void MessageBox::addButtons(const BoxType& type) {
   for (const BoxButton& button : type.buttons) {
-    QPushButton* const added = button.kind != NoButton
-                                   ? addButton(button.kind)
-                                   : addButton(QString::fromLatin1(button.text), AcceptRole);
+    QPushButton* const added =
+        button.kind != NoButton ? addButton(button.kind) : addButton(said(button.text), AcceptRole);
     results_.emplace_back(added, button.result);
     inOrder_.push_back(added);
     if (type.escape == button.result) setEscapeButton(added);
@@ -45,7 +45,7 @@ void MessageBox::addButtons(const BoxType& type) {
 
 /// Help is asked of the owner, as F1 asks it, and the box stays.
 void MessageBox::addHelp() {
-  auto* const help = new QPushButton(QStringLiteral("Help"), this);
+  auto* const help = new QPushButton(said("Help"), this);
   addButton(help, HelpRole);
   QObject::disconnect(help, &QPushButton::clicked, nullptr, nullptr);
   connect(help, &QPushButton::clicked, this, [this] {

@@ -98,13 +98,14 @@ void dropDescriptors() {
   // The first takes no room but that of the host's, who may have left none.
   close(STDIN_FILENO);
   const int nowhere = open("/dev/null", O_RDWR);
-  for (const int output : {STDOUT_FILENO, STDERR_FILENO}) dup2(nowhere, output);
+  for (const int output : {STDOUT_FILENO, STDERR_FILENO}) {
+    if (dup2(nowhere, output) < 0) close(output);
+  }
   closeDescriptorsFrom(STDERR_FILENO + 1);
 }
 
 [[noreturn]] void becomeProgram(const Program& program) {
   setsid();
-  dropDescriptors();
   restoreSignals();
   if (program.directory != nullptr && chdir(program.directory) != 0) _exit(kNoFolder);
   execve(program.path, program.words, environ);
@@ -117,6 +118,8 @@ void dropDescriptors() {
   struct sigaction told {};
   told.sa_handler = SIG_DFL;
   sigaction(SIGCHLD, &told, nullptr);
+  // Before there is a program, so that what the host closes while it is waited for is closed.
+  dropDescriptors();
   const pid_t child = forkPlainly(SIGCHLD);
   if (child < 0) _exit(kTooLong);
   if (child == 0) becomeProgram(program);

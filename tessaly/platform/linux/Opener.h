@@ -23,8 +23,9 @@ struct Opened {
 
 /// Runs the program with one argument, in a folder of one's choice, and waits for its end a moment: some
 /// programs stay as long as what they show. It gets none of the caller's descriptors, signals or terminal,
-/// and the caller no signal of its end, nor ever a child to wait for. Any thread may call, and is not
-/// cancelled meanwhile.
+/// and the caller no signal of its end and no child to wait for, unless he is one whom the system gives
+/// orphans to (a container's first process, a child subreaper): such a one gets each program that outlasts
+/// the moment. Any thread may call, and is not cancelled meanwhile.
 Opened runOpener(const std::string& program, const std::string& argument, const char* directory,
                  std::chrono::nanoseconds moment);
 

@@ -63,6 +63,7 @@ OpenerOfTests::Start OpenerOfTests::nextStart() {
   for (std::string& word : start.words) word = readField();
   start.folder = readField();
   start.descriptors = readField();
+  start.descriptorsOfStarter = readField();
   start.blockedSignals = readField();
   start.ignoredSignals = readField();
   start.leadsItsSession = readField() == "leads";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +33,9 @@ class OpenerOfTests final : public RecordingOpener {
     std::vector<std::string> words;
     std::string folder;
     std::string descriptors;
+
+    /// Those of the process that has started it, as long as that waits for it.
+    std::string descriptorsOfStarter;
     std::string blockedSignals;
     std::string ignoredSignals;
     bool leadsItsSession = false;
@@ -41,6 +45,7 @@ class OpenerOfTests final : public RecordingOpener {
   ~OpenerOfTests() override;
 
   std::string scheme() const override { return "tessaly-tests"; }
+  std::size_t sureLength() const override { return 30000; }
   std::string next() override { return nextStart().words.at(1); }
 
   /// Waits for its next start.

@@ -1,6 +1,5 @@
 // Stands for the desktop's opener: it tells the test what it was started with.
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -15,14 +14,14 @@
 
 namespace {
 
-std::string openDescriptors() {
+/// By looks that take no descriptor themselves.
+std::string descriptorsOf(pid_t process) {
   std::string numbers;
   for (int number = 0; number < 1024; ++number) {
-    if (fcntl(number, F_GETFD) < 0) continue;
-    std::error_code unknown;
-    numbers += std::to_string(number) + "=" +
-               std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(number), unknown).string() +
-               " ";
+    std::error_code missing;
+    const auto name = "/proc/" + std::to_string(process) + "/fd/" + std::to_string(number);
+    const auto opened = std::filesystem::read_symlink(name, missing);
+    if (!missing) numbers += std::to_string(number) + "=" + opened.string() + " ";
   }
   return numbers;
 }
@@ -57,11 +56,12 @@ int codeFor(std::string_view text) {
 }  // namespace
 
 int main(int count, char** words) {
-  const std::string descriptors = openDescriptors();
+  const std::string descriptors = descriptorsOf(getpid());
   std::string fields = std::to_string(count) + '\0';
   for (int i = 0; i < count; ++i) (fields += words[i]) += '\0';
   (fields += std::filesystem::current_path()) += '\0';
   (fields += descriptors) += '\0';
+  (fields += descriptorsOf(getppid())) += '\0';
   (fields += status("SigBlk:")) += '\0';
   (fields += status("SigIgn:")) += '\0';
   (fields += getsid(0) == getpid() ? "leads" : "follows") += '\0';

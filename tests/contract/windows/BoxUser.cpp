@@ -1,5 +1,6 @@
 #include "tests/contract/BoxUser.h"
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <algorithm>
@@ -104,8 +105,14 @@ class UserByTimer final : public BoxUser {
     if (dialog == answered_) return;
     answered_ = dialog;
     seen_.push_back(lookAt(dialog));
-    const Long pressed = button_ != 0 ? button_ : seen_.back().defaultButton;
-    PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(pressed), 0);
+    const Long wanted = button_ != 0 ? button_ : seen_.back().defaultButton;
+    HWND const button = GetDlgItem(dialog, wanted);
+    if (button != nullptr && IsWindowVisible(button)) {
+      PostMessageW(button, BM_CLICK, 0, 0);
+    } else {
+      ADD_FAILURE() << "There is no button " << wanted;
+      EndDialog(dialog, 0);
+    }
   }
 
   UINT_PTR timer_;

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include <array>
+#include <cstddef>
 #include <filesystem>
 #include <stdexcept>
 
@@ -44,6 +45,9 @@ class OpenerByAssociation final : public RecordingOpener {
   }
 
   std::string scheme() const override { return toUtf8(fromWide(scheme_)); }
+
+  /// The system knows no longer addresses than 2083 characters.
+  std::size_t sureLength() const override { return 2083; }
 
   std::string next() override {
     ConnectNamedPipe(pipe_, nullptr);

@@ -2,6 +2,7 @@
 
 #include "tessaly/platform/linux/Opener.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
@@ -15,6 +16,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "tests/contract/linux/OpenerOfTests.h"
@@ -33,8 +35,20 @@ Opened runAtOnce(const std::string& file) {
   return runOpener(openerPath().value(), file, nullptr, std::chrono::nanoseconds(0));
 }
 
-/// From now on these calls of the system fail for this process and those that it starts, as on a kernel that
-/// does not have them; false where the system does not let itself be told so.
+constexpr const char* kOnlyNowhere = "0=/dev/null 1=/dev/null 2=/dev/null ";
+
+/// What a process ends with that could not refuse calls.
+constexpr int kCannotRefuse = 99;
+
+/// From now on the filter judges the calls of this process and of those that it starts; false where the
+/// system does not let itself be told so.
+bool judgeCalls(std::vector<sock_filter> filter) {
+  const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
+  return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+         prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+/// From now on these calls of the system fail, as on a kernel that does not have them.
 bool refuse(const std::vector<unsigned>& calls) {
   std::vector<sock_filter> filter{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
   for (const unsigned call : calls) {
@@ -42,9 +56,17 @@ bool refuse(const std::vector<unsigned>& calls) {
     filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS));
   }
   filter.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
-  const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
-  return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-         prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+  return judgeCalls(std::move(filter));
+}
+
+/// From now on nothing is opened for reading and writing at once, as "/dev/null" is where it is there.
+bool refuseToOpenForBoth() {
+  return judgeCalls({BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+                     BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
+                     BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[2])),
+                     BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, O_RDWR, 0, 1),
+                     BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOENT),
+                     BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)});
 }
 
 /// Leaves this process no room for another descriptor.
@@ -63,15 +85,30 @@ INSTANTIATE_TEST_SUITE_P(Calls, OpenerWithoutCalls,
 
 TEST_P(OpenerWithoutCalls, GetsNoneOfTheHostsDescriptors) {
   OpenerOfTests opener;
-  constexpr int cannotRefuse = 99;
   const int code = tests::inProcess([] {
     useUpDescriptors();
-    if (!refuse(GetParam())) return cannotRefuse;
-    runAtOnce("x");
+    if (!refuse(GetParam())) return kCannotRefuse;
+    run("x");
     return 0;
   });
-  if (code == cannotRefuse) GTEST_SKIP() << "the system refuses no calls here";
-  EXPECT_EQ(opener.nextStart().descriptors, "0=/dev/null 1=/dev/null 2=/dev/null ");
+  if (code == kCannotRefuse) GTEST_SKIP() << "the system refuses no calls here";
+  const OpenerOfTests::Start start = opener.nextStart();
+  EXPECT_EQ(start.descriptors, kOnlyNowhere);
+  EXPECT_EQ(start.descriptorsOfStarter, kOnlyNowhere);
+}
+
+// It had the host's output and errors.
+TEST(LinuxOpener, GetsNoDescriptorAtAllWhereNowhereIsMissing) {
+  OpenerOfTests opener;
+  const int code = tests::inProcess([] {
+    if (!refuseToOpenForBoth()) return kCannotRefuse;
+    run("x");
+    return 0;
+  });
+  if (code == kCannotRefuse) GTEST_SKIP() << "the system refuses no calls here";
+  const OpenerOfTests::Start start = opener.nextStart();
+  EXPECT_EQ(start.descriptors, "");
+  EXPECT_EQ(start.descriptorsOfStarter, "");
 }
 
 TEST(LinuxOpener, GivesTheOpenerNothingOfTheHosts) {
@@ -86,7 +123,7 @@ TEST(LinuxOpener, GivesTheOpenerNothingOfTheHosts) {
   pthread_sigmask(SIG_BLOCK, &blocked, &usual);
   run("x");
   const OpenerOfTests::Start start = opener.nextStart();
-  EXPECT_EQ(start.descriptors, "0=/dev/null 1=/dev/null 2=/dev/null ");
+  EXPECT_EQ(start.descriptors, kOnlyNowhere);
   EXPECT_EQ(start.blockedSignals, "0000000000000000");
   EXPECT_EQ(start.ignoredSignals, "0000000000000000");
   EXPECT_TRUE(start.leadsItsSession);
@@ -95,6 +132,17 @@ TEST(LinuxOpener, GivesTheOpenerNothingOfTheHosts) {
   EXPECT_EQ(sigismember(&still, SIGUSR2), 1);
   EXPECT_EQ(sigismember(&still, SIGTERM), 0);
   std::signal(SIGUSR1, before);
+  close(pipes[0]);
+  close(pipes[1]);
+}
+
+// The process in between had them as long as it waited, so a pipe that the host closed did not end.
+TEST(LinuxOpener, KeepsNothingOfTheHostsOpenWhileItIsWaitedFor) {
+  OpenerOfTests opener;
+  int pipes[2] = {};
+  ASSERT_EQ(pipe(pipes), 0);
+  run("x");
+  EXPECT_EQ(opener.nextStart().descriptorsOfStarter, kOnlyNowhere);
   close(pipes[0]);
   close(pipes[1]);
 }
@@ -113,6 +161,18 @@ TEST(LinuxOpener, LeavesTheHostNoChildAndTellsItOfNone) {
   EXPECT_EQ(errno, ECHILD);
   EXPECT_EQ(endsOfChildren, 0);
   std::signal(SIGCHLD, before);
+}
+
+TEST(LinuxOpener, LeavesOneThatStaysToAHostWhoAdoptsOrphans) {
+  OpenerOfTests opener;
+  const int code = tests::inProcess([&] {
+    prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0);
+    runAtOnce("tessaly-held:");
+    opener.nextStart();
+    opener.release();
+    return waitpid(-1, nullptr, 0) > 0 ? 0 : 1;
+  });
+  EXPECT_EQ(code, 0);
 }
 
 TEST(LinuxOpener, KnowsTheEndThoughTheHostIgnoresThoseOfItsChildren) {

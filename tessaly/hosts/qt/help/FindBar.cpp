@@ -9,13 +9,16 @@
 #include <QTextEdit>
 #include <QToolButton>
 
+#include "tessaly/hosts/qt/ShownText.h"
+#include "tessaly/hosts/qt/Words.h"
+
 namespace tessaly::qt {
 namespace {
 
 QToolButton* button(QWidget* parent, const QString& name, const char* icon, QStyle::StandardPixmap spare) {
   auto* const made = new QToolButton(parent);
   made->setIcon(QIcon::fromTheme(QLatin1String(icon), parent->style()->standardIcon(spare)));
-  made->setToolTip(name);
+  made->setToolTip(toolTipOf(name));
   made->setAccessibleName(name);
   made->setAutoRaise(true);
   return made;
@@ -25,10 +28,11 @@ QToolButton* button(QWidget* parent, const QString& name, const char* icon, QSty
 
 FindBar::FindBar(QTextEdit& page, QWidget* parent)
     : QWidget(parent), page_(page), text_(new QLineEdit(this)), result_(new QLabel(this)) {
-  auto* const previous = button(this, QStringLiteral("Find previous"), "go-up", QStyle::SP_ArrowUp);
-  auto* const next = button(this, QStringLiteral("Find next"), "go-down", QStyle::SP_ArrowDown);
-  auto* const close = button(this, QStringLiteral("Close"), "window-close", QStyle::SP_TitleBarCloseButton);
-  text_->setPlaceholderText(QStringLiteral("Find in page"));
+  auto* const previous = button(this, said("Find previous"), "go-up", QStyle::SP_ArrowUp);
+  auto* const next = button(this, said("Find next"), "go-down", QStyle::SP_ArrowDown);
+  auto* const close = button(this, said("Close"), "window-close", QStyle::SP_TitleBarCloseButton);
+  result_->setTextFormat(Qt::PlainText);
+  text_->setPlaceholderText(said("Find in page"));
   text_->setAccessibleName(text_->placeholderText());
   text_->setClearButtonEnabled(true);
   text_->setMaximumWidth(320);
@@ -76,10 +80,10 @@ void FindBar::find(QTextDocument::FindFlags direction) {
   const QTextCursor before = page_.textCursor();
   page_.moveCursor(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
   if (page_.find(text_->text(), direction)) {
-    result_->setText(QStringLiteral("Found from the page's other end"));
+    result_->setText(said("Found from the page's other end"));
   } else {
     page_.setTextCursor(before);
-    result_->setText(QStringLiteral("Not found"));
+    result_->setText(said("Not found"));
   }
 }
 

@@ -6,6 +6,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "tessaly/hosts/qt/ShownText.h"
+#include "tessaly/hosts/qt/Words.h"
 #include "tessaly/hosts/qt/help/FindBar.h"
 #include "tessaly/hosts/qt/help/GuardedSlot.h"
 #include "tessaly/hosts/qt/help/HelpWindow.h"
@@ -30,8 +32,8 @@ QAction* tool(QWidget& window, const QString& name, const char* icon, QStyle::St
 HelpWindow::HelpWindow()
     : splitter_(new QSplitter(this)),
       side_(new QTabWidget(splitter_)),
-      contents_(new SitemapTree(QStringLiteral("Contents"), side_)),
-      index_(new SitemapTree(QStringLiteral("Index"), side_)),
+      contents_(new SitemapTree(said("Contents"), side_)),
+      index_(new SitemapTree(said("Index"), side_)),
       indexPane_(new QWidget(side_)),
       page_(new PageView(shelf_, splitter_)),
       findBar_(new FindBar(*page_, this)) {
@@ -57,8 +59,8 @@ HelpWindow::HelpWindow()
 
 void HelpWindow::addSidePane() {
   auto* const sought = new QLineEdit(indexPane_);
-  sought->setPlaceholderText(QStringLiteral("Look for"));
-  sought->setAccessibleName(QStringLiteral("Look for in the index"));
+  sought->setPlaceholderText(said("Look for"));
+  sought->setAccessibleName(said("Look for in the index"));
   sought->setClearButtonEnabled(true);
   auto* const layout = new QVBoxLayout(indexPane_);
   layout->setContentsMargins(4, 6, 4, 0);
@@ -66,8 +68,8 @@ void HelpWindow::addSidePane() {
   layout->addWidget(index_);
   indexPane_->setFocusProxy(sought);
   side_->setDocumentMode(true);
-  side_->addTab(contents_, QStringLiteral("&Contents"));
-  side_->addTab(indexPane_, QStringLiteral("&Index"));
+  side_->addTab(contents_, said("&Contents"));
+  side_->addTab(indexPane_, said("&Index"));
   for (const auto* const tree : {contents_, index_}) {
     connect(tree, &SitemapTree::chosen, this, guardedSlot(this, &HelpWindow::showReference));
   }
@@ -78,21 +80,22 @@ void HelpWindow::addSidePane() {
 void HelpWindow::addTool(QToolBar& bar, QAction* action, const QList<QKeySequence>& keys) {
   action->setShortcuts(keys);
   const QString key = keys.isEmpty() ? QString() : keys.first().toString(QKeySequence::NativeText);
-  action->setToolTip(key.isEmpty() ? action->text() : QStringLiteral("%1 (%2)").arg(action->text(), key));
+  const QString tip = key.isEmpty() ? action->text() : QStringLiteral("%1 (%2)").arg(action->text(), key);
+  action->setToolTip(toolTipOf(tip));
   bar.addAction(action);
 }
 
 void HelpWindow::addTools() {
-  auto* const bar = addToolBar(QStringLiteral("Navigation"));
+  auto* const bar = addToolBar(said("Navigation"));
   bar->setObjectName(QStringLiteral("navigation"));
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   setContextMenuPolicy(Qt::NoContextMenu);
-  QAction* const back = tool(*this, QStringLiteral("Back"), "go-previous", QStyle::SP_ArrowBack);
-  QAction* const forward = tool(*this, QStringLiteral("Forward"), "go-next", QStyle::SP_ArrowForward);
-  home_ = tool(*this, QStringLiteral("Home"), "go-home", QStyle::SP_DirHomeIcon);
-  QAction* const find = tool(*this, QStringLiteral("Find"), "edit-find", QStyle::SP_FileDialogContentsView);
+  QAction* const back = tool(*this, said("Back"), "go-previous", QStyle::SP_ArrowBack);
+  QAction* const forward = tool(*this, said("Forward"), "go-next", QStyle::SP_ArrowForward);
+  home_ = tool(*this, said("Home"), "go-home", QStyle::SP_DirHomeIcon);
+  QAction* const find = tool(*this, said("Find"), "edit-find", QStyle::SP_FileDialogContentsView);
   addTool(*bar, back, {QKeySequence(Qt::ALT | Qt::Key_Left), QKeySequence(Qt::Key_Back)});
   addTool(*bar, forward, {QKeySequence(Qt::ALT | Qt::Key_Right), QKeySequence(Qt::Key_Forward)});
   addTool(*bar, home_, {QKeySequence(Qt::ALT | Qt::Key_Home)});

@@ -9,6 +9,7 @@
 #include <new>
 
 #include "tessaly/hosts/qt/Text.h"
+#include "tessaly/hosts/qt/Words.h"
 #include "tessaly/hosts/qt/help/GuardedSlot.h"
 #include "tessaly/hosts/qt/help/HelpAddress.h"
 #include "tessaly/hosts/qt/help/Notices.h"
@@ -89,7 +90,7 @@ PageView::PageView(HelpShelf& shelf, QWidget* parent)
   setPalette(paper(palette()));
   setFrameShape(QFrame::NoFrame);
   setOpenLinks(false);
-  setAccessibleName(QStringLiteral("Page"));
+  setAccessibleName(said("Page"));
   document()->setDocumentMargin(kMargin);
   // What pages leave open, as it reads well.
   document()->setDefaultStyleSheet(
