@@ -34,7 +34,7 @@ PictureReference toPicture(const QImage& image) {
   const QImage whole = inLogicalPixels(image);
   // Where each pixel covers wholly or not at all, as in most icons, colours times cover are the colours.
   if (whole.format() == QImage::Format_ARGB32_Premultiplied) {
-    if (const auto picture = pictureOf(whole); picture->isCutOut()) return picture;
+    if (auto picture = pictureOf(whole); picture->isCutOut()) return picture;
   }
   const QImage plain = whole.convertToFormat(QImage::Format_ARGB32);
   if (plain.isNull()) throw RuntimeError(RuntimeError::OutOfMemory);
