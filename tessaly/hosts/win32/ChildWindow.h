@@ -101,7 +101,6 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   PixelSize inside() const;
   void measure();
   void takeSize();
-  void takeDensity();
   void paintWindow();
   void paintOn(HDC target);
   void click();

@@ -66,10 +66,8 @@ class Drawing {
 std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      takeSize();
-      return 0;
     case kDensityChanged:
-      takeDensity();
+      takeSize();
       return 0;
     case WM_WINDOWPOSCHANGED:
       endCaptureWhereHidden(*reinterpret_cast<const WINDOWPOS*>(lParam));
@@ -200,23 +198,21 @@ void ChildWindow::endCaptureWhereHidden(const WINDOWPOS& change) {
   if ((change.flags & SWP_HIDEWINDOW) != 0) setCapture(false);
 }
 
-// The size that the control itself assigns is brought to it by the assignment.
+// The size that the control itself assigns is brought to it by the assignment. Where its form has come to
+// another screen, whose density may come with a size that leaves the control's own as it was, it is painted
+// anew.
 void ChildWindow::takeSize() {
   const PixelSize before = size_;
+  const Density densityBefore = density_;
   measure();
   if (size_ != before && !assignsSize_) raise([](UserControl& control) { control.resized(); });
-}
-
-// Its form has come to another screen, and has given it the size that it is to have there.
-void ChildWindow::takeDensity() {
-  takeSize();
-  raise([this](UserControl&) { makeCursor(); });
+  if (density_ != densityBefore) raise([this](UserControl&) { makeCursor(); });
   repaintLater();
 }
 
 // Not every program that knows of dense screens is told that one of its windows has come to another.
 void ChildWindow::paintWindow() {
-  if (Density::of(window_) != density_) takeDensity();
+  if (Density::of(window_) != density_) takeSize();
   raise([](UserControl& control) { control.prepareToShow(); });
   if (window_ == nullptr) return;
   const Drawing drawing(window_);
