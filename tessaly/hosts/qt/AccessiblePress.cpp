@@ -1,23 +1,57 @@
 #include "tessaly/hosts/qt/AccessiblePress.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
 #include "tessaly/hosts/qt/WidgetContainer.h"
 
 namespace tessaly::qt {
+namespace {
+
+const QWindow& rootOf(const QWindow& window) {
+  const QWindow* root = &window;
+  while (const QWindow* const above = root->parent(QWindow::IncludeTransients)) root = above;
+  return *root;
+}
+
+/// Whether a window takes another's input: as Qt does it, all that does not belong to it, or all the windows
+/// that it has a parent in common with.
+bool takesInputOf(const QWindow& dialog, const QWindow& window) {
+  if (!dialog.isVisible() || dialog.modality() == Qt::NonModal) return false;
+  if (&dialog == &window || dialog.isAncestorOf(&window)) return false;
+  return dialog.modality() == Qt::ApplicationModal || &rootOf(dialog) == &rootOf(window);
+}
+
+/// Whether no dialog stands before a widget. Those above the foremost dialog had input before it came.
+bool isReachedByInput(const QWidget& widget) {
+  const QWindow* const window = widget.window()->windowHandle();
+  if (window == nullptr) return true;
+  for (const QWindow* dialog = QGuiApplication::modalWindow(); dialog != nullptr;
+       dialog = dialog->parent(QWindow::IncludeTransients)) {
+    if (takesInputOf(*dialog, *window)) return false;
+  }
+  return true;
+}
+
+}  // namespace
 
 AccessiblePress::AccessiblePress(WidgetContainer& widget, QAccessible::Role role)
     : QAccessibleWidget(&widget, role) {}
 
+bool AccessiblePress::isPressable() const { return canBePressed() && isReachedByInput(*widget()); }
+
 QStringList AccessiblePress::actionNames() const {
   QStringList names = QAccessibleWidget::actionNames();
-  if (canBePressed()) names.prepend(pressAction());
+  if (isPressable()) names.prepend(pressAction());
   return names;
 }
 
+// What came before may have shown a dialog, whose loop brings the press.
 void AccessiblePress::doAction(const QString& name) {
-  if (name != pressAction() || !canBePressed()) return QAccessibleWidget::doAction(name);
+  if (name != pressAction() || !isPressable()) return QAccessibleWidget::doAction(name);
   auto* const pressed = static_cast<WidgetContainer*>(object());
   const auto press = [pressed] {
-    if (pressed->isEnabled()) pressed->press();
+    if (pressed->isEnabled() && isReachedByInput(*pressed)) pressed->press();
   };
   QMetaObject::invokeMethod(pressed, press, Qt::QueuedConnection);
 }

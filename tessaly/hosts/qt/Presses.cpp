@@ -1,6 +1,7 @@
 #include "tessaly/hosts/qt/Presses.h"
 
 #include <array>
+#include <new>
 #include <utility>
 
 #include "tessaly/hosts/qt/WidgetPlace.h"
@@ -79,11 +80,14 @@ void Presses::beforeTick() {
 }
 
 // Not at once: a window that is being destroyed hides its widgets, and its host is to hear nothing then.
-void Presses::tellLostLater() {
+// Where there is no memory for that, it is told before the next tick or move.
+void Presses::tellLostLater() try {
   isToldBehindEvent_ = events_ > 0;
   if (isToldBehindEvent_) return;
   QMetaObject::invokeMethod(
       &place_->widget(), [this] { tellLost(); }, Qt::QueuedConnection);
+} catch (const std::bad_alloc&) {
+  return;
 }
 
 void Presses::tellLost() {

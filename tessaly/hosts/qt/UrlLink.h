@@ -35,7 +35,8 @@ class TESSALY_QT_API UrlLink : public WidgetContainer {
   void text(const QString& sText);
 
   /// What a click opens: an address, or a file that some application opens. It passes through the system's
-  /// 8-bit code page. What can't be opened is not reported.
+  /// 8-bit code page. What the shell can't open is not reported; a
+  /// call to it that fails as such is shown by `MsgBoxW`.
   QString URL() const;
   void URL(const QString& sURL);
 

@@ -61,12 +61,12 @@ class AccessibleControl final : public IAccessible {
     return *action != nullptr ? S_OK : E_OUTOFMEMORY;
   }
 
-  // The one who asks does not wait for what the click does, which may be a dialog.
+  // The one who asks does not wait for what the click does, which may be a dialog that stands before what is
+  // to be clicked next.
   HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT child) override {
     const auto window = window_.lock();
     if (!isSelf(child) || window == nullptr) return standard_->accDoDefaultAction(child);
-    if (!window->isReachedByInput()) return E_FAIL;
-    return PostMessageW(window->window(), BM_CLICK, 0, 0) != FALSE ? S_OK : E_FAIL;
+    return window->isReachedByInput() && window->clickLater() ? S_OK : E_FAIL;
   }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {

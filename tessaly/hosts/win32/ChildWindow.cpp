@@ -36,6 +36,16 @@ PixelSize frameOf(HWND window) {
           static_cast<Long>(outer.bottom - outer.top - inner.bottom)};
 }
 
+/// Whether neither a window nor one that it lies in is disabled.
+bool isEnabledWithAllAround(HWND window) {
+  const HWND desktop = GetDesktopWindow();
+  HWND around = window;
+  while (around != nullptr && around != desktop && IsWindowEnabled(around) != FALSE) {
+    around = GetAncestor(around, GA_PARENT);
+  }
+  return around == nullptr || around == desktop;
+}
+
 }  // namespace
 
 ChildWindow::ChildWindow(const ControlKind& kind, HWND window) : kind_(&kind), window_(window) {}
@@ -53,13 +63,10 @@ PropertyBag ChildWindow::save() {
   return bag;
 }
 
-bool ChildWindow::isPressed() const { return keyPress_.isHeld() || ::GetCapture() == window_; }
-
 bool ChildWindow::isReachedByKeys() const { return (GetWindowLongW(window_, GWL_STYLE) & WS_TABSTOP) != 0; }
 
 bool ChildWindow::isReachedByInput() const {
-  return isEnabled() && IsWindowEnabled(window_) != FALSE &&
-         IsWindowEnabled(GetAncestor(window_, GA_ROOT)) != FALSE;
+  return isEnabled() && IsWindowVisible(window_) != FALSE && isEnabledWithAllAround(window_);
 }
 
 bool ChildWindow::hasNameOfItsOwn() const {
@@ -105,8 +112,7 @@ bool ChildWindow::isVisible() { return (GetWindowLongA(window_, GWL_STYLE) & WS_
 // Points of the screen are Windows's own; those that a control sees of itself are in its pixels.
 PixelPoint ChildWindow::GetCursorPos() {
   POINT point{};
-  const auto press = keyPress_.pointer() ? keyPress_.pointer() : mousePress_.pointer();
-  if (press) {
+  if (const auto press = presses_.pointer()) {
     const PixelPoint place = density_.toWindow(*press);
     point = {place.x, place.y};
     ClientToScreen(window_, &point);
@@ -126,7 +132,7 @@ void ChildWindow::setCapture(bool captured) {
   if (window_ == nullptr) return;
   if (!captured) {
     if (::GetCapture() == window_) ReleaseCapture();
-  } else if (!keyPress_.isHeld()) {
+  } else if (!presses_.isKeyHeld()) {
     SetCapture(window_);
   }
 }

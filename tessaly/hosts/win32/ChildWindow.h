@@ -9,7 +9,6 @@
 
 #include "tessaly/forms/Container.h"
 #include "tessaly/forms/Guarded.h"
-#include "tessaly/forms/KeyPress.h"
 #include "tessaly/forms/PropertyBag.h"
 #include "tessaly/forms/UserControl.h"
 #include "tessaly/hosts/win32/Beginning.h"
@@ -17,7 +16,7 @@
 #include "tessaly/hosts/win32/Controls.h"
 #include "tessaly/hosts/win32/Density.h"
 #include "tessaly/hosts/win32/Handles.h"
-#include "tessaly/hosts/win32/MousePress.h"
+#include "tessaly/hosts/win32/Presses.h"
 #include "tessaly/hosts/win32/Timers.h"
 #include "tessaly/hosts/win32/ToolTip.h"
 
@@ -53,15 +52,29 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   // What assistive technology asks for.
   HWND window() const { return window_; }
   bool isEnabled() const { return control_ != nullptr && kind_->isEnabled(control_.get()); }
-  bool isPressed() const;
+  bool isPressed() const { return presses_.isHeld(); }
   bool isReachedByKeys() const;
 
-  /// Whether the user could click it: it can be used, and no dialog stands before its form.
+  /// Whether the user could click it: it can be used and is seen, and no dialog stands before its form.
   bool isReachedByInput() const;
 
   /// Whether the control names itself, since the window has no text; then its name, null for want of memory.
   bool hasNameOfItsOwn() const;
   BSTR nameOfControl() const noexcept;
+
+  /// Has it clicked when the loop comes to it, if the user still could then; false where Windows refuses.
+  bool clickLater() const;
+
+  /// Tells that the state has changed.
+  void tellState() const { tell(EVENT_OBJECT_STATECHANGE); }
+
+  /// Brings the control an event, which must be held meanwhile; nothing once the window has gone.
+  template <class Event>
+  void raise(const Event& event) noexcept {
+    if (window_ == nullptr || userControl_ == nullptr) return;
+    const Presses::Event counted(presses_);
+    guarded(*userControl_, [&] { event(*userControl_); });
+  }
 
   PixelSize size() override { return size_; }
   void setSize(PixelSize size) override;
@@ -101,22 +114,13 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   PixelSize inside() const;
   void measure();
   void takeSize();
-  void takeDensity();
   void paintWindow();
   void paintOn(HDC target);
+  void tick(UINT_PTR number);
   void click();
-  void pressKey();
-  void releaseKey(PixelPoint point);
   void giveUpPress();
   void tell(DWORD change) const;
-  void tellState() const { tell(EVENT_OBJECT_STATECHANGE); }
   PixelPoint middle() const { return {size_.width / 2, size_.height / 2}; }
-
-  /// Brings the control an event, which must be held meanwhile; nothing once the window has gone.
-  template <class Event>
-  void raise(const Event& event) noexcept {
-    if (window_ != nullptr && userControl_ != nullptr) guarded(*userControl_, [&] { event(*userControl_); });
-  }
 
   const ControlKind* kind_;
   HWND window_;
@@ -129,8 +133,7 @@ class ChildWindow final : public Container, public std::enable_shared_from_this<
   std::int16_t pointer_ = 0;
   MouseIcon mouseIcon_;
   OwnedCursor icon_;
-  KeyPress keyPress_;
-  MousePress mousePress_;
+  Presses presses_{*this};
   UserControl* userControl_ = nullptr;
   std::shared_ptr<void> control_;
 

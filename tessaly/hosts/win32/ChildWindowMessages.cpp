@@ -18,6 +18,8 @@ constexpr MouseState kControl = 2;
 constexpr MouseState kAlt = 4;
 /// WM_DPICHANGED_AFTERPARENT, which headers for systems before Windows 10 lack.
 constexpr UINT kDensityChanged = 0x02E3;
+/// The window posts it to itself: a click for who can't use mouse or keys.
+constexpr UINT kClickMessage = WM_USER + 0x55;
 constexpr LPARAM kWasDownBefore = LPARAM{1} << 30;
 
 MouseState either(bool first, MouseState one, bool second, MouseState two, bool third, MouseState three) {
@@ -66,16 +68,20 @@ class Drawing {
 std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      takeSize();
-      return 0;
     case kDensityChanged:
-      takeDensity();
+      takeSize();
       return 0;
     case WM_WINDOWPOSCHANGED:
       endCaptureWhereHidden(*reinterpret_cast<const WINDOWPOS*>(lParam));
       return std::nullopt;
     case WM_TIMER:
-      raise([&](UserControl&) { timers_.tick(window_, wParam); });
+      tick(wParam);
+      return 0;
+    case Presses::kLostMessage:
+      presses_.tellLost();
+      return 0;
+    case kClickMessage:
+      if (isReachedByInput()) click();
       return 0;
     case WM_SETCURSOR:
       if (LOWORD(lParam) == HTCLIENT && showCursor()) return TRUE;
@@ -108,9 +114,9 @@ std::optional<LRESULT> ChildWindow::handle(UINT message, WPARAM wParam, LPARAM l
 std::optional<LRESULT> ChildWindow::handleMouse(UINT message, WPARAM keys, LPARAM place) {
   if (message < WM_MOUSEFIRST || message > WM_MBUTTONDBLCLK) return std::nullopt;
   toolTip_.relay(window_, message, keys, place);
-  if (keyPress_.isHeld()) return 0;
+  presses_.settle();
+  if (presses_.isKeyHeld()) return 0;
   const PixelPoint point = density_.toControl(PixelPoint{GET_X_LPARAM(place), GET_Y_LPARAM(place)});
-  const auto bring = [this](const auto& event) { raise(event); };
   switch (message) {
     case WM_MOUSEMOVE:
       raise([&](UserControl& control) { control.mouseMove(buttonsOf(keys), shiftOf(keys), point); });
@@ -118,12 +124,12 @@ std::optional<LRESULT> ChildWindow::handleMouse(UINT message, WPARAM keys, LPARA
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
     case WM_MBUTTONDOWN:
-      mousePress_.begin(buttonOf(message), shiftOf(keys), point, bring);
+      presses_.pressed(buttonOf(message), shiftOf(keys), point);
       break;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
-      mousePress_.end(buttonOf(message), shiftOf(keys), point, bring);
+      presses_.released(buttonOf(message), shiftOf(keys), point);
       break;
     default:
       return std::nullopt;
@@ -140,16 +146,18 @@ std::optional<LRESULT> ChildWindow::handleKeys(UINT message, WPARAM wParam, LPAR
     return 0;
   }
   const bool isUp = message == WM_KEYUP || message == WM_SYSKEYUP;
-  if (isUp && wParam == VK_SPACE && keyPress_.isHeld()) {
-    releaseKey(middle());
+  if (isUp && wParam == VK_SPACE && presses_.isKeyHeld()) {
+    presses_.releaseKey(middle());
     return 0;
   }
   if (isUp || !isReachedByKeys()) return std::nullopt;
   if (message == WM_GETDLGCODE) return DLGC_BUTTON | (isReturn(lParam) ? DLGC_WANTMESSAGE : 0);
   if (wParam != VK_SPACE && wParam != VK_RETURN) return std::nullopt;
-  if ((lParam & kWasDownBefore) == 0) {
-    pressKey();
-    if (wParam == VK_RETURN) releaseKey(middle());
+  if ((lParam & kWasDownBefore) != 0) return 0;
+  if (wParam == VK_RETURN) {
+    click();
+  } else {
+    presses_.pressKey(VK_SPACE, middle());
   }
   return 0;
 }
@@ -159,8 +167,7 @@ std::optional<LRESULT> ChildWindow::handleFocus(UINT message, WPARAM wParam, LPA
   switch (message) {
     case WM_CAPTURECHANGED:
       if (reinterpret_cast<HWND>(lParam) == window_) return 0;
-      mousePress_.lose([this](const auto& event) { raise(event); });
-      tellState();
+      presses_.captureLost();
       return 0;
     case WM_ENABLE:
       if (wParam == FALSE) giveUpPress();
@@ -169,7 +176,7 @@ std::optional<LRESULT> ChildWindow::handleFocus(UINT message, WPARAM wParam, LPA
       giveUpPress();
       return std::nullopt;
     case WM_KILLFOCUS:
-      releaseKey(MousePress::kOutside);
+      presses_.focusLost();
       break;
     default:
       break;
@@ -200,23 +207,21 @@ void ChildWindow::endCaptureWhereHidden(const WINDOWPOS& change) {
   if ((change.flags & SWP_HIDEWINDOW) != 0) setCapture(false);
 }
 
-// The size that the control itself assigns is brought to it by the assignment.
+// The size that the control itself assigns is brought to it by the assignment. Where its form has come to
+// another screen, whose density may come with a size that leaves the control's own as it was, it is painted
+// anew.
 void ChildWindow::takeSize() {
   const PixelSize before = size_;
+  const Density densityBefore = density_;
   measure();
   if (size_ != before && !assignsSize_) raise([](UserControl& control) { control.resized(); });
-}
-
-// Its form has come to another screen, and has given it the size that it is to have there.
-void ChildWindow::takeDensity() {
-  takeSize();
-  raise([this](UserControl&) { makeCursor(); });
+  if (density_ != densityBefore) raise([this](UserControl&) { makeCursor(); });
   repaintLater();
 }
 
 // Not every program that knows of dense screens is told that one of its windows has come to another.
 void ChildWindow::paintWindow() {
-  if (Density::of(window_) != density_) takeDensity();
+  if (Density::of(window_) != density_) takeSize();
   raise([](UserControl& control) { control.prepareToShow(); });
   if (window_ == nullptr) return;
   const Drawing drawing(window_);
@@ -229,25 +234,22 @@ void ChildWindow::paintOn(HDC target) {
   });
 }
 
+// As long as a press that is lost waits for the end of an event, as that of a dialog's opening, nothing goes
+// on that it has begun. A timer that is passed over comes again.
+void ChildWindow::tick(UINT_PTR number) {
+  presses_.settle();
+  if (!presses_.hasLost()) raise([&](UserControl&) { timers_.tick(window_, number); });
+}
+
 void ChildWindow::click() {
-  pressKey();
-  releaseKey(middle());
+  presses_.pressKey(Presses::kNoKey, middle());
+  presses_.releaseKey(middle());
 }
 
-// The mouse's press and a key's do not mix.
-void ChildWindow::pressKey() {
-  if (::GetCapture() == window_) return;
-  keyPress_.begin(middle(), [this](const auto& event) { raise(event); });
-  tellState();
-}
-
-void ChildWindow::releaseKey(PixelPoint point) {
-  keyPress_.end(point, [this](const auto& event) { raise(event); });
-  tellState();
-}
+bool ChildWindow::clickLater() const { return PostMessageW(window_, kClickMessage, 0, 0) != FALSE; }
 
 void ChildWindow::giveUpPress() {
-  releaseKey(MousePress::kOutside);
+  presses_.keyLost();
   setCapture(false);
 }
 

@@ -1,6 +1,7 @@
 // What assistive technology is told of a picture button, and what it can do with it.
 
 #include <QAccessible>
+#include <QDialog>
 
 #include "tests/hosts/qt/Stage.h"
 
@@ -67,6 +68,80 @@ TEST_F(QtAccessibilityTest, APressOfAWidgetThatIsDisabledOrGoneMeanwhileIsNone) 
   delete button_.data();
   settle();
   EXPECT_EQ(takeEvents(), Events{});
+}
+
+/// Dialogs that stand before a widget, and others.
+class QtAccessibilityBehindDialogsTest : public QtAccessibilityTest {
+ protected:
+  static bool offersPress(QWidget& widget) {
+    return QAccessible::queryAccessibleInterface(&widget)->actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::pressAction());
+  }
+
+  void press() const { told().actionInterface()->doAction(QAccessibleActionInterface::pressAction()); }
+
+  static void show(QWidget& window, Qt::WindowModality modality) {
+    window.setWindowModality(modality);
+    window.show();
+    settle();
+  }
+};
+
+// The second press ran in the loop of the first one's dialog, and opened another.
+TEST_F(QtAccessibilityBehindDialogsTest, APressDoesNotComeBehindTheDialogOfTheOneBefore) {
+  QObject::connect(&button(), &qt::PictureButton::OnButtonClick, [this] {
+    QDialog dialog(&stage_.window());
+    QMetaObject::invokeMethod(&dialog, "accept", Qt::QueuedConnection);
+    dialog.exec();
+  });
+  press();
+  press();
+  settle();
+  EXPECT_EQ(takeEvents(), (Events{"OnButtonSelected", "OnButtonClick"}));
+}
+
+TEST_F(QtAccessibilityBehindDialogsTest, WhatADialogStandsBeforeIsNotPressed) {
+  QDialog dialog;
+  show(dialog, Qt::ApplicationModal);
+  EXPECT_FALSE(offersPress(button()));
+  press();
+  settle();
+  EXPECT_EQ(takeEvents(), Events{});
+  dialog.hide();
+  EXPECT_TRUE(offersPress(button()));
+}
+
+TEST_F(QtAccessibilityBehindDialogsTest, WhatStandsInADialogOrInAWindowOfItIsPressed) {
+  QDialog dialog(&stage_.window());
+  qt::PictureButton inDialog(&dialog);
+  QWidget tools(&dialog, Qt::Tool);
+  qt::PictureButton inTools(&tools);
+  show(dialog, Qt::ApplicationModal);
+  show(tools, Qt::NonModal);
+  EXPECT_TRUE(offersPress(inDialog));
+  EXPECT_TRUE(offersPress(inTools));
+  EXPECT_FALSE(offersPress(button()));
+}
+
+TEST_F(QtAccessibilityBehindDialogsTest, ADialogOfOneFormLeavesTheOthersAlone) {
+  QWidget other;
+  qt::PictureButton inOther(&other);
+  show(other, Qt::NonModal);
+  QDialog dialog(&stage_.window());
+  show(dialog, Qt::WindowModal);
+  EXPECT_FALSE(offersPress(button()));
+  EXPECT_TRUE(offersPress(inOther));
+}
+
+TEST_F(QtAccessibilityBehindDialogsTest, ADialogBehindAnotherStandsBeforeAllItDidBefore) {
+  QWidget other;
+  qt::PictureButton inOther(&other);
+  show(other, Qt::NonModal);
+  QDialog dialog(&stage_.window());
+  show(dialog, Qt::ApplicationModal);
+  QDialog question(&dialog);
+  show(question, Qt::WindowModal);
+  EXPECT_FALSE(offersPress(inOther));
 }
 
 }  // namespace

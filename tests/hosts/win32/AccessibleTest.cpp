@@ -107,6 +107,39 @@ TEST_F(AccessibleTest, WhatTheUserCouldNotClickIsNotClicked) {
   EXPECT_EQ(clicks, 0);
 }
 
+// The second click ran in the loop of the first one's dialog, and opened another.
+TEST_F(AccessibleTest, AClickDoesNotComeBehindADialog) {
+  transparentBitmap& button = make(0);
+  ASSERT_NE(object_, nullptr);
+  int clicks = 0;
+  button.events.OnButtonClick = [&] {
+    ++clicks;
+    if (clicks == 1) passDialog(form_.window());
+  };
+  EXPECT_EQ(object_->accDoDefaultAction(self()), S_OK);
+  EXPECT_EQ(object_->accDoDefaultAction(self()), S_OK);
+  pump();
+  EXPECT_EQ(clicks, 1);
+  // A host's own click is the host's affair.
+  EnableWindow(form_.window(), FALSE);
+  SendMessageW(form_.button(), BM_CLICK, 0, 0);
+  EnableWindow(form_.window(), TRUE);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(AccessibleTest, WhatLiesInADisabledPartOfTheFormOrIsNotSeenIsNotClicked) {
+  make(0);
+  ASSERT_NE(object_, nullptr);
+  const HWND part = form_.add(L"STATIC", {100, 100, 200, 200});
+  SetParent(form_.button(), part);
+  EXPECT_EQ(object_->accDoDefaultAction(self()), S_OK);
+  EnableWindow(part, FALSE);
+  EXPECT_NE(object_->accDoDefaultAction(self()), S_OK);
+  EnableWindow(part, TRUE);
+  ShowWindow(part, SW_HIDE);
+  EXPECT_NE(object_->accDoDefaultAction(self()), S_OK);
+}
+
 TEST_F(AccessibleTest, WhoAsksMayOutliveTheWindow) {
   make(0);
   ASSERT_NE(object_, nullptr);

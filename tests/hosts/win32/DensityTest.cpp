@@ -155,6 +155,21 @@ TEST_F(DenseScreenTest, AFormThatComesToAnotherScreenTellsItsControls) {
   EXPECT_EQ(place.container().size(), (PixelSize{40, 30}));
 }
 
+// The new density came with the size, and left nothing to be told of.
+TEST_F(DenseScreenTest, ASizeThatComesWithAnotherDensityIsEnoughToPaintAnew) {
+  const ControlOfTestsWindow place;
+  pump();
+  EXPECT_FALSE(GetUpdateRect(place.window(), nullptr, FALSE));
+  put(192);
+  EXPECT_EQ(eventsOf(place.control(), [&] { MoveWindow(place.window(), 0, 0, 80, 60, FALSE); }),
+            std::vector<std::string>{});
+  EXPECT_EQ(place.container().size(), (PixelSize{40, 30}));
+  RECT anew{};
+  EXPECT_TRUE(GetUpdateRect(place.window(), &anew, FALSE));
+  EXPECT_EQ(anew.left, 0);
+  EXPECT_EQ(anew.right, 80);
+}
+
 TEST_F(DenseScreenTest, AFormThatIsPaintedOnAnotherScreenBeforeItIsToldIsFoundOut) {
   const ControlOfTestsWindow place;
   put(144);
@@ -303,6 +318,9 @@ TEST_F(DenseScreenTest, AnIconOfThePointerIsAsLargeAsTheScreenIsDense) {
   put(96);
   SendMessageW(window, kScreenChanged, 0, 0);
   EXPECT_EQ(hotSpot().x, 13);
+  put(192);
+  MoveWindow(window, 10, 10, 400, 80, FALSE);
+  EXPECT_EQ(hotSpot().x, 26);
 }
 
 }  // namespace

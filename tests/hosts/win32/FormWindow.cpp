@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tessaly/hosts/win32/Controls.h"
+#include "tessaly/hosts/win32/Timers.h"
 
 namespace tessaly::tests {
 namespace {
@@ -27,16 +28,14 @@ void handle(MSG& message) {
   DispatchMessageW(&message);
 }
 
-void send(INPUT& input) {
-  ASSERT_EQ(SendInput(1, &input, sizeof input), 1U);
-  pump();
-}
+void send(INPUT& input) { ASSERT_EQ(SendInput(1, &input, sizeof input), 1U); }
 
 void sendMouse(DWORD flags, LONG x = 0, LONG y = 0) {
   INPUT input{};
   input.type = INPUT_MOUSE;
   input.mi = {x, y, 0, flags, 0, 0};
   send(input);
+  pump();
 }
 
 void sendKey(WORD key, DWORD flags) {
@@ -119,6 +118,24 @@ void pump() {
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) handle(message);
 }
 
+void passDialog(HWND form) {
+  SetTimer(form, 1, 10, [](HWND window, UINT, UINT_PTR number, DWORD) {
+    const HWND box = FindWindowW(L"#32770", L"A dialog of the tests");
+    if (box == nullptr) return;
+    KillTimer(window, number);
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+  });
+  MessageBoxW(form, L"Done", L"A dialog of the tests", MB_OK);
+}
+
+int endTimersOf(HWND window) {
+  int found = 0;
+  for (UINT_PTR number = 1; number <= 20; ++number) {
+    found += KillTimer(window, win32::Timers::kNumbersBegin + number) != FALSE ? 1 : 0;
+  }
+  return found;
+}
+
 void movePointer(HWND window, PixelPoint point) {
   POINT place{point.x, point.y};
   ClientToScreen(window, &place);
@@ -135,7 +152,21 @@ void movePointer(HWND window, PixelPoint point) {
 
 void press(DWORD button) { sendMouse(button); }
 void release(DWORD button) { sendMouse(button); }
-void keyDown(WORD key) { sendKey(key, 0); }
-void keyUp(WORD key) { sendKey(key, KEYEVENTF_KEYUP); }
+
+void keyDown(WORD key) {
+  sendKey(key, 0);
+  pump();
+}
+
+void keyUp(WORD key) {
+  sendKey(key, KEYEVENTF_KEYUP);
+  pump();
+}
+
+void keyUpTakenElsewhere(WORD key) {
+  sendKey(key, KEYEVENTF_KEYUP);
+  MSG message;
+  ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_KEYUP, WM_KEYUP, PM_REMOVE));
+}
 
 }  // namespace tessaly::tests

@@ -47,6 +47,12 @@ bool pumpUntilMessage(HWND window, UINT number);
 /// Handles all messages that wait.
 void pump();
 
+/// A dialog of a form that opens and closes again.
+void passDialog(HWND form);
+
+/// Ends the timers that a control's window runs; how many there were.
+int endTimersOf(HWND window);
+
 /// Real input: the pointer to a point of a window's client area, a button or key down or up. What it brings
 /// is handled when the call returns.
 void movePointer(HWND window, PixelPoint point);
@@ -54,5 +60,8 @@ void press(DWORD button = MOUSEEVENTF_LEFTDOWN);
 void release(DWORD button = MOUSEEVENTF_LEFTUP);
 void keyDown(WORD key);
 void keyUp(WORD key);
+
+/// A key up whose message goes to nobody's window, as where a menu is open.
+void keyUpTakenElsewhere(WORD key);
 
 }  // namespace tessaly::tests

@@ -34,6 +34,7 @@ class KeyboardTest : public testing::Test {
   transparentBitmap& button_ = form_.addButton({20, 20}, WS_TABSTOP);
   HWND window_ = form_.button();
   int clicks_ = 0;
+  int clicksInEvent_ = 0;
   int selections_ = 0;
 };
 
@@ -120,6 +121,7 @@ TEST_F(KeyboardTest, AKeyThatIsReleasedElsewhereComesToNothing) {
   SetFocus(window_);
   keyDown(VK_SPACE);
   SetFocus(form_.window());
+  pump();
   EXPECT_EQ(edge(), kNone);
   keyUp(VK_SPACE);
   EXPECT_EQ(clicks_, 0);
@@ -129,6 +131,7 @@ TEST_F(KeyboardTest, AKeyThatIsHeldWhileTheWindowIsDisabledComesToNothing) {
   SetFocus(window_);
   keyDown(VK_SPACE);
   EnableWindow(window_, FALSE);
+  pump();
   EXPECT_EQ(edge(), kNone);
   EnableWindow(window_, TRUE);
   SetFocus(window_);
@@ -143,6 +146,7 @@ TEST_F(KeyboardTest, TheWordThatTheWindowIsDisabledIsEnough) {
   SendMessageW(window_, WM_ENABLE, TRUE, 0);
   EXPECT_EQ(edge(), kSunken);
   SendMessageW(window_, WM_ENABLE, FALSE, 0);
+  pump();
   EXPECT_EQ(edge(), kNone);
   keyUp(VK_SPACE);
   EXPECT_EQ(clicks_, 0);
@@ -152,6 +156,7 @@ TEST_F(KeyboardTest, AKeyThatIsHeldWhereAllPressesAreGivenUpComesToNothing) {
   SetFocus(window_);
   keyDown(VK_SPACE);
   SendMessageW(window_, WM_CANCELMODE, 0, 0);
+  pump();
   EXPECT_EQ(edge(), kNone);
   keyUp(VK_SPACE);
   EXPECT_EQ(clicks_, 0);
@@ -176,13 +181,7 @@ TEST_F(KeyboardTest, ADialogInTheClickOfTheKeysPressEndsThePress) {
   button_.automaticClickFirstTiming(10);
   button_.events.OnButtonClick = [this] {
     ++clicks_;
-    SetTimer(form_.window(), 1, 10, [](HWND window, UINT, UINT_PTR number, DWORD) {
-      const HWND box = FindWindowW(L"#32770", L"A dialog of the tests");
-      if (box == nullptr) return;
-      KillTimer(window, number);
-      PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
-    MessageBoxW(form_.window(), L"Done", L"A dialog of the tests", MB_OK);
+    passDialog(form_.window());
   };
   SetFocus(window_);
   keyDown(VK_SPACE);
@@ -190,6 +189,96 @@ TEST_F(KeyboardTest, ADialogInTheClickOfTheKeysPressEndsThePress) {
   EXPECT_EQ(clicks_, 1);
   EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
   EXPECT_EQ(clicks_, 1);
+}
+
+// The timer's own click had shown the dialog, and the timer began anew behind the release.
+TEST_F(KeyboardTest, ADialogInARepeatedClickOfTheKeyEndsThePress) {
+  button_.automaticClick(True);
+  button_.automaticClickFirstTiming(10);
+  button_.automaticClickTiming(10);
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  button_.events.OnButtonClick = [this] {
+    ++clicks_;
+    passDialog(form_.window());
+  };
+  EXPECT_TRUE(pumpUntil([this] { return clicks_ == 2; }));
+  EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+  constexpr int kWatchingThePointer = 2;
+  EXPECT_EQ(endTimersOf(window_), kWatchingThePointer);
+  keyUp(VK_SPACE);
+  EXPECT_EQ(clicks_, 2);
+}
+
+// The release waits for the event's end. The ticks that it is to stop do not.
+TEST_F(KeyboardTest, NothingClicksBehindADialogOfAnotherEvent) {
+  button_.automaticClick(True);
+  button_.automaticClickFirstTiming(1);
+  button_.automaticClickTiming(1);
+  button_.events.MouseMove = [this](std::int16_t&, std::int16_t&, float&, float&) {
+    button_.events.MouseMove = {};
+    SendMessageW(window_, WM_KEYDOWN, VK_SPACE, 1);
+    SendMessageW(window_, WM_CANCELMODE, 0, 0);
+    ASSERT_TRUE(pumpUntilMessage(window_, WM_TIMER));
+    clicksInEvent_ = clicks_;
+  };
+  SendMessageW(window_, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  EXPECT_EQ(clicksInEvent_, 1);
+  EXPECT_EQ(clicks_, 1);
+  EXPECT_EQ(edge(), kNone);
+}
+
+TEST_F(KeyboardTest, AReleaseThatAMenuTakesIsFoundOutBeforeTheButtonClicksAgain) {
+  button_.automaticClick(True);
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyUpTakenElsewhere(VK_SPACE);
+  EXPECT_EQ(edge(), kSunken);
+  EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+  EXPECT_EQ(clicks_, 1);
+}
+
+TEST_F(KeyboardTest, AReleaseThatAMenuTakesIsFoundOutBeforeTheMouseIsHeard) {
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  keyUpTakenElsewhere(VK_SPACE);
+  movePointer(window_, {5, 5});
+  press();
+  release();
+  EXPECT_EQ(clicks_, 1);
+}
+
+TEST_F(KeyboardTest, AKeysPressThatAProgramHasMadeUpGoesOn) {
+  SendMessageW(window_, WM_KEYDOWN, VK_SPACE, 1);
+  movePointer(window_, {5, 5});
+  EXPECT_EQ(edge(), kSunken);
+  SendMessageW(window_, WM_KEYUP, VK_SPACE, 1);
+  EXPECT_EQ(clicks_, 1);
+}
+
+// The control went on finding the pointer in its middle until the dialog was closed.
+TEST_F(KeyboardTest, ADialogInTheClickOfReturnLeavesThePointerToTheMouse) {
+  int rests = 0;
+  button_.events.OnButtonSelectedTiming = [&] { ++rests; };
+  button_.events.OnButtonClick = [this] {
+    SetFocus(form_.window());
+    EXPECT_TRUE(pumpUntil([this] { return edge() == kNone; }));
+  };
+  SetFocus(window_);
+  keyDown(VK_RETURN);
+  keyUp(VK_RETURN);
+  EXPECT_EQ(rests, 0);
+}
+
+TEST_F(KeyboardTest, AHostThatDestroysTheWindowMeanwhileHearsNothing) {
+  int released = 0;
+  button_.events.MouseUp = [&](std::int16_t&, std::int16_t&, float&, float&) { ++released; };
+  SetFocus(window_);
+  keyDown(VK_SPACE);
+  DestroyWindow(window_);
+  pump();
+  EXPECT_EQ(released, 0);
+  keyUp(VK_SPACE);
 }
 
 TEST_F(KeyboardTest, TheWindowMayBeDestroyedInAClickByKey) {

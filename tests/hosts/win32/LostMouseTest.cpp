@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "tessaly/hosts/win32/Timers.h"
 #include "tests/hosts/win32/ControlOfTestsWindow.h"
 
 namespace tessaly::tests {
@@ -30,6 +29,11 @@ class LostMouseTest : public testing::Test {
     ReleaseCapture();
   }
 
+  void takeMouseAwayAndTell() {
+    takeMouseAway();
+    pump();
+  }
+
   ControlOfTestsWindow place_;
   ControlOfTests& control_ = place_.control();
   HWND window_ = place_.window();
@@ -38,8 +42,8 @@ class LostMouseTest : public testing::Test {
 TEST_F(LostMouseTest, EachButtonThatIsHeldIsReleasedOutside) {
   press();
   press(MOUSEEVENTF_RIGHTDOWN);
-  EXPECT_EQ(eventsOf([this] { takeMouseAway(); }), (Told{"MouseUp 1 0 -1,-1", "MouseUp 2 0 -1,-1"}));
-  EXPECT_EQ(eventsOf([this] { takeMouseAway(); }), Told{});
+  EXPECT_EQ(eventsOf([this] { takeMouseAwayAndTell(); }), (Told{"MouseUp 1 0 -1,-1", "MouseUp 2 0 -1,-1"}));
+  EXPECT_EQ(eventsOf([this] { takeMouseAwayAndTell(); }), Told{});
   release(MOUSEEVENTF_RIGHTUP);
   release();
   press();
@@ -53,7 +57,7 @@ TEST_F(LostMouseTest, ThePointerIsOutsideWhileThatIsToldAndThenWhereItIs) {
   const auto look = [this] { return place_.container().ScreenToClient(place_.container().GetCursorPos()); };
   control_.on["MouseUp"] = [&] { found = look(); };
   press();
-  takeMouseAway();
+  takeMouseAwayAndTell();
   EXPECT_EQ(found, (PixelPoint{-1, -1}));
   EXPECT_EQ(look(), (PixelPoint{5, 6}));
   release();
@@ -82,21 +86,46 @@ TEST_F(LostMouseTest, APressWithinAPressIsHeldOn) {
 
 TEST_F(LostMouseTest, AWindowThatIsHiddenOrDisabledHasItNoLonger) {
   press();
-  EXPECT_EQ(eventsOf([this] { ShowWindow(window_, SW_HIDE); }), Told{"MouseUp 1 0 -1,-1"});
+  EXPECT_EQ(eventsOf([this] { ShowWindow(window_, SW_HIDE); }), Told{});
+  EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(eventsOf([] { pump(); }), Told{"MouseUp 1 0 -1,-1"});
   release();
   ShowWindow(window_, SW_SHOW);
   pump();
   press();
-  EXPECT_EQ(eventsOf([this] { EnableWindow(window_, FALSE); }), Told{"MouseUp 1 0 -1,-1"});
+  EnableWindow(window_, FALSE);
   EXPECT_EQ(GetCapture(), nullptr);
+  EXPECT_EQ(eventsOf([] { pump(); }), Told{"MouseUp 1 0 -1,-1"});
   release();
+}
+
+// The release came while the window was being destroyed, to a host that was taking itself apart.
+TEST_F(LostMouseTest, AHostThatDestroysTheWindowMeanwhileHearsNothing) {
+  Container& container = place_.container();
+  int releases = 0;
+  control_.on["MouseUp"] = [&] { ++releases; };
+  press();
+  const auto held = static_cast<win32::ChildWindow&>(container).shared_from_this();
+  DestroyWindow(window_);
+  pump();
+  EXPECT_EQ(releases, 0);
+  release();
+}
+
+TEST_F(LostMouseTest, ANewPressComesBehindTheLostRelease) {
+  press();
+  takeMouseAway();
+  EXPECT_EQ(eventsOf([this] { SendMessageW(window_, WM_LBUTTONDOWN, 0, MAKELPARAM(7, 8)); }),
+            (Told{"MouseUp 1 0 -1,-1", "MouseDown 1 0 7,8"}));
+  EXPECT_EQ(GetCapture(), window_);
+  EXPECT_EQ(eventsOf([] { release(); }), Told{"MouseUp 1 0 5,6"});
 }
 
 TEST_F(LostMouseTest, TheWindowMayBeDestroyedInThatRelease) {
   press();
   press(MOUSEEVENTF_RIGHTDOWN);
   control_.on["MouseUp"] = [this] { DestroyWindow(window_); };
-  takeMouseAway();
+  takeMouseAwayAndTell();
   EXPECT_FALSE(IsWindow(window_));
   EXPECT_EQ(ControlOfTests::count(), 0);
   release(MOUSEEVENTF_RIGHTUP);
@@ -113,13 +142,7 @@ class LostButtonTest : public testing::Test {
   }
 
   /// Ends the button's timers; how many there were, beside the two that watch the pointer.
-  int endClicking() const {
-    int found = -2;
-    for (UINT_PTR number = 1; number <= 20; ++number) {
-      found += KillTimer(form_.button(), win32::Timers::kNumbersBegin + number) != FALSE ? 1 : 0;
-    }
-    return found;
-  }
+  int endClicking() const { return endTimersOf(form_.button()) - 2; }
 
   FormWindow form_;
   transparentBitmap& button_ = form_.addButton();
@@ -138,6 +161,7 @@ TEST_F(LostButtonTest, ItClicksNoMore) {
   press();
   SetCapture(form_.window());
   ReleaseCapture();
+  pump();
   EXPECT_EQ(endClicking(), 0);
   release();
   EXPECT_EQ(clicks_, 1);
@@ -146,18 +170,27 @@ TEST_F(LostButtonTest, ItClicksNoMore) {
 TEST_F(LostButtonTest, ADialogInTheClickOfThePressEndsIt) {
   button_.events.OnButtonClick = [this] {
     ++clicks_;
-    SetTimer(form_.window(), 1, 10, [](HWND window, UINT, UINT_PTR number, DWORD) {
-      const HWND box = FindWindowW(L"#32770", L"A dialog of the tests");
-      if (box == nullptr) return;
-      KillTimer(window, number);
-      PostMessageW(box, WM_COMMAND, IDOK, 0);
-    });
-    MessageBoxW(form_.window(), L"Done", L"A dialog of the tests", MB_OK);
+    passDialog(form_.window());
   };
   press();
   release();
   EXPECT_EQ(clicks_, 1);
   EXPECT_LE(endClicking(), 0);
+}
+
+// The timer's own click had shown the dialog, and the timer began anew behind the release.
+TEST_F(LostButtonTest, ADialogInARepeatedClickEndsIt) {
+  button_.automaticClickFirstTiming(10);
+  button_.automaticClickTiming(10);
+  press();
+  button_.events.OnButtonClick = [this] {
+    ++clicks_;
+    passDialog(form_.window());
+  };
+  EXPECT_TRUE(pumpUntil([this] { return clicks_ == 2; }));
+  EXPECT_LE(endClicking(), 0);
+  release();
+  EXPECT_EQ(clicks_, 2);
 }
 
 TEST_F(LostButtonTest, AReleaseElsewhereIsNoClickThoughThePointerIsOnIt) {

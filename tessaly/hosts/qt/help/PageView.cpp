@@ -74,8 +74,10 @@ bool leadsIntoArchive(const QUrl& url) {
   return namesArchive(fromQString(url.toString()));
 }
 
+/// One that stands alone in a line is the line's.
 bool hasAnchor(const QTextDocument& document, const QString& name) {
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    if (block.charFormat().anchorNames().contains(name)) return true;
     for (auto at = block.begin(); !at.atEnd(); ++at) {
       if (at.fragment().charFormat().anchorNames().contains(name)) return true;
     }

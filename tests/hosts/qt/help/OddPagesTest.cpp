@@ -176,6 +176,15 @@ TEST_F(QtOddPagesTest, AnAnchorMayHaveBlanksPercentSignsAndOtherScripts) {
   }
 }
 
+// Its name is the line's then, where nobody looked.
+TEST_F(QtOddPagesTest, AnAnchorMayStandAloneInALine) {
+  std::string far;
+  for (int i = 0; i < 80; ++i) far += "A line\n";
+  make({{"a.html", pageOf("<pre>" + far + "<a name=\"a%b\"></a>\nBehind it\n" + far + "</pre>")}});
+  showPage("a.html#a%b");
+  EXPECT_TRUE(showsPlace("Behind it"));
+}
+
 TEST_F(QtOddPagesTest, NamesLinksAndAnchorsOfAnyLengthHarmNothing) {
   for (const std::string& part : {std::string(30'000, 'x'), std::string(30'000, '%'),
                                   std::string(3000, '.') + '/', std::string(3000, '\\')}) {
