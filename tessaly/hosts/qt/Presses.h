@@ -43,9 +43,6 @@ class Presses {
   /// A release that went elsewhere is told before time passes.
   void beforeTick();
 
-  /// Whether something has been lost and is not told of yet, since an event runs.
-  bool hasLost() const { return lostButtons_ != 0 || isKeyLost_; }
-
   /// The widget goes, and nobody is told of anything.
   void forgetLost();
 

@@ -89,8 +89,6 @@ void WidgetPlace::released(MouseState button, MouseState shift, PixelPoint point
 void WidgetPlace::tick(int timerId) {
   const auto held = shared_from_this();
   presses_.beforeTick();
-  // Nothing clicks behind a dialog that another event shows: the release is told when that event ends.
-  if (presses_.hasLost()) return;
   const Presses::Event counted(presses_);
   timers_.tick(timerId);
 }

@@ -114,28 +114,6 @@ TEST_F(QtLostMouseTest, ADialogInARepeatedClickLeavesNothingThatClicks) {
   EXPECT_EQ(takeEvents(), (Events{"OnButtonClick", "MouseUp 1 0 -1,-1"}));
 }
 
-TEST_F(QtLostMouseTest, NothingClicksBehindADialogOfAnotherEvent) {
-  pressAutomatically();
-  Events behind;
-  QObject::connect(&button(), &PictureButton::OnButtonSelectedTiming, [&] {
-    QDialog dialog(&stage_.window());
-    QMetaObject::invokeMethod(
-        &dialog,
-        [&] {
-          takeEvents();
-          tick(button(), kFirst);
-          behind = takeEvents();
-          dialog.accept();
-        },
-        Qt::QueuedConnection);
-    dialog.exec();
-  });
-  tick(button(), kRest);
-  EXPECT_EQ(behind, Events{});
-  EXPECT_FALSE(repeats());
-  EXPECT_EQ(takeEvents(), Events{"MouseUp 1 0 -1,-1"});
-}
-
 TEST_F(QtLostMouseTest, APlainPressThatIsLostIsNoClick) {
   stage_.move(Stage::kInside);
   stage_.press();
