@@ -155,6 +155,9 @@ class ArabicAtTheStart : public WindowStage {
 TEST_F(ArabicAtTheStart, ALanguageOfTheStartIsNotKept) {
   choose(Command::ShowNumbers);
   EXPECT_EQ(catalogue.resources.lang(), kArabic);
+  window->visitNextDialog([](DialogUser& user) { user.press(Dialog::kOk); });
+  choose(Command::Settings);
+  EXPECT_EQ(catalogue.resources.lang(), kArabic);
   EXPECT_TRUE(loadPreferences().showsStringNumbers);
   EXPECT_EQ(loadPreferences().language, 0);
 }

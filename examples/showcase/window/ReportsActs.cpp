@@ -256,8 +256,9 @@ Saying Reports::toggleNumbers() {
 }
 
 Saying Reports::changeSettings() {
+  const Long before = preferences_.language;
   if (!editPreferences(desk_, preferences_)) return Ready;
-  keepAndSpeak(preferences_.language);
+  keepAndSpeak(preferences_.language == before ? resources_.lang() : preferences_.language);
   return Done;
 }
 

@@ -17,18 +17,20 @@ const QWindow& rootOf(const QWindow& window) {
 /// Whether a window takes another's input: as Qt does it, all that does not belong to it, or all the windows
 /// that it has a parent in common with.
 bool takesInputOf(const QWindow& dialog, const QWindow& window) {
-  if (!dialog.isVisible() || dialog.modality() == Qt::NonModal) return false;
+  if (dialog.modality() == Qt::NonModal) return false;
   if (&dialog == &window || dialog.isAncestorOf(&window)) return false;
   return dialog.modality() == Qt::ApplicationModal || &rootOf(dialog) == &rootOf(window);
 }
 
-/// Whether no dialog stands before a widget. Those above the foremost dialog had input before it came.
+/// Whether a widget is seen and no dialog stands before it. Those above the foremost dialog had input before
+/// it came; it may be a desktop's own, which Qt does not show itself.
 bool isReachedByInput(const QWidget& widget) {
   const QWindow* const window = widget.window()->windowHandle();
-  if (window == nullptr) return true;
-  for (const QWindow* dialog = QGuiApplication::modalWindow(); dialog != nullptr;
+  if (window == nullptr || !widget.isVisible()) return false;
+  const QWindow* const foremost = QGuiApplication::modalWindow();
+  for (const QWindow* dialog = foremost; dialog != nullptr;
        dialog = dialog->parent(QWindow::IncludeTransients)) {
-    if (takesInputOf(*dialog, *window)) return false;
+    if ((dialog == foremost || dialog->isVisible()) && takesInputOf(*dialog, *window)) return false;
   }
   return true;
 }

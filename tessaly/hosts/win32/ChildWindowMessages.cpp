@@ -234,11 +234,9 @@ void ChildWindow::paintOn(HDC target) {
   });
 }
 
-// As long as a press that is lost waits for the end of an event, as that of a dialog's opening, nothing goes
-// on that it has begun. A timer that is passed over comes again.
 void ChildWindow::tick(UINT_PTR number) {
   presses_.settle();
-  if (!presses_.hasLost()) raise([&](UserControl&) { timers_.tick(window_, number); });
+  raise([&](UserControl&) { timers_.tick(window_, number); });
 }
 
 void ChildWindow::click() {

@@ -55,9 +55,6 @@ class Presses {
   /// Before time passes or the mouse does something: what went elsewhere is told first.
   void settle();
 
-  /// Whether something lost is not told of yet.
-  bool hasLost() const { return lostButtons_ != 0 || isKeyLost_; }
-
   bool isKeyHeld() const { return key_.isHeld(); }
 
   /// To who looks at it: what has been lost holds nothing down.

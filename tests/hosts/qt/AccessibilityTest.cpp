@@ -111,6 +111,21 @@ TEST_F(QtAccessibilityBehindDialogsTest, WhatADialogStandsBeforeIsNotPressed) {
   EXPECT_TRUE(offersPress(button()));
 }
 
+// A desktop's own dialog is one that Qt keeps a window for and does not show.
+TEST_F(QtAccessibilityBehindDialogsTest, WhatADialogOfTheDesktopStandsBeforeIsNotPressed) {
+  QDialog dialog;
+  dialog.setAttribute(Qt::WA_DontShowOnScreen);
+  show(dialog, Qt::ApplicationModal);
+  EXPECT_FALSE(offersPress(button()));
+}
+
+TEST_F(QtAccessibilityBehindDialogsTest, WhatIsHiddenWhenThePressComesIsNotPressed) {
+  press();
+  button().hide();
+  settle();
+  EXPECT_EQ(takeEvents(), Events{});
+}
+
 TEST_F(QtAccessibilityBehindDialogsTest, WhatStandsInADialogOrInAWindowOfItIsPressed) {
   QDialog dialog(&stage_.window());
   qt::PictureButton inDialog(&dialog);

@@ -34,7 +34,6 @@ class KeyboardTest : public testing::Test {
   transparentBitmap& button_ = form_.addButton({20, 20}, WS_TABSTOP);
   HWND window_ = form_.button();
   int clicks_ = 0;
-  int clicksInEvent_ = 0;
   int selections_ = 0;
 };
 
@@ -208,24 +207,6 @@ TEST_F(KeyboardTest, ADialogInARepeatedClickOfTheKeyEndsThePress) {
   EXPECT_EQ(endTimersOf(window_), kWatchingThePointer);
   keyUp(VK_SPACE);
   EXPECT_EQ(clicks_, 2);
-}
-
-// The release waits for the event's end. The ticks that it is to stop do not.
-TEST_F(KeyboardTest, NothingClicksBehindADialogOfAnotherEvent) {
-  button_.automaticClick(True);
-  button_.automaticClickFirstTiming(1);
-  button_.automaticClickTiming(1);
-  button_.events.MouseMove = [this](std::int16_t&, std::int16_t&, float&, float&) {
-    button_.events.MouseMove = {};
-    SendMessageW(window_, WM_KEYDOWN, VK_SPACE, 1);
-    SendMessageW(window_, WM_CANCELMODE, 0, 0);
-    ASSERT_TRUE(pumpUntilMessage(window_, WM_TIMER));
-    clicksInEvent_ = clicks_;
-  };
-  SendMessageW(window_, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
-  EXPECT_EQ(clicksInEvent_, 1);
-  EXPECT_EQ(clicks_, 1);
-  EXPECT_EQ(edge(), kNone);
 }
 
 TEST_F(KeyboardTest, AReleaseThatAMenuTakesIsFoundOutBeforeTheButtonClicksAgain) {
