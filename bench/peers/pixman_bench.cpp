@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 #include <pixman.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "bench/CopyScenes.h"

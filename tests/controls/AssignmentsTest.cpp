@@ -1,6 +1,7 @@
 // What each assignment does, in the order of it, and that the container hears of it last.
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include "tests/controls/Figures.h"
 #include "tests/controls/RecordingStage.h"

@@ -1,6 +1,7 @@
 // The border's lines: when they show, their width and their colours.
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include "tests/controls/Figures.h"
 #include "tests/controls/RecordingStage.h"

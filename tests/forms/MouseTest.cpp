@@ -1,6 +1,7 @@
 // Presses, the capture that they take, and the labels that they fall on.
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include "tessaly/forms/Label.h"
 #include "tessaly/forms/headless/Form.h"

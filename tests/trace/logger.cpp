@@ -3,6 +3,7 @@
 // it then takes a line of input before it answers that message, counted from 1, and writes "answering" and
 // the time.
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdlib>

@@ -1,5 +1,7 @@
 #include "tools/tessaly-reg/Pattern.h"
 
+#include <algorithm>
+
 #include "tessaly/platform/Core.h"
 
 namespace tessaly::reg {

@@ -1,5 +1,6 @@
 // The tool's dialogs, message boxes, help and link, answered as a user would.
 
+#include <algorithm>
 #include <fstream>
 
 #include "examples/showcase/tests/WindowStage.h"

@@ -1,4 +1,6 @@
 #include "tessaly/platform/pictures/Dib.h"
+
+#include <algorithm>
 #include "tessaly/platform/pictures/PictureFile.h"
 
 namespace tessaly::platform {

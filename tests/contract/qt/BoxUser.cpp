@@ -62,7 +62,6 @@ ShownBox lookAt(const QMessageBox& box) {
 class UserOfToolkit final : public BoxUser {
  public:
   UserOfToolkit() {
-    QApplication::setActiveWindow(nullptr);
     QObject::connect(&timer_, &QTimer::timeout, [this] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box != nullptr) answer(*box);
@@ -75,7 +74,8 @@ class UserOfToolkit final : public BoxUser {
 
   platform::WindowHandle activate() override {
     window_.show();
-    QApplication::setActiveWindow(&window_);
+    window_.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
     return handleOf(&window_);
   }
 

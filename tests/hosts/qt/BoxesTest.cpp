@@ -12,6 +12,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 #include <functional>
 #include <thread>
 
@@ -265,12 +266,11 @@ TEST_F(QtBoxesTest, HelpAsksTheOwnerAndTheBoxStays) {
 
 TEST_F(QtBoxesTest, TheActiveWindowIsTheOwner) {
   platform::MessageBoxes& boxes = *platform::desktop().messageBoxes;
-  QApplication::setActiveWindow(nullptr);
   EXPECT_EQ(boxes.GetActiveWindow(), 0);
   QWidget window;
   window.show();
   window.activateWindow();
-  QApplication::setActiveWindow(&window);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   const platform::WindowHandle owner = boxes.GetActiveWindow();
   EXPECT_EQ(owner, static_cast<platform::WindowHandle>(window.winId()));
   show(

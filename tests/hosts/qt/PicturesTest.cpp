@@ -3,6 +3,7 @@
 #include "tessaly/hosts/qt/Pictures.h"
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include "tests/controls/Figures.h"
 

@@ -3,6 +3,7 @@
 #include "tessaly/hosts/win32/Density.h"
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 #include "tessaly/controls/URLLink.h"
 #include "tessaly/forms/Label.h"

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <oleacc.h>
+#include <algorithm>
 
 #include "tessaly/controls/URLLink.h"
 #include "tessaly/forms/Screen.h"

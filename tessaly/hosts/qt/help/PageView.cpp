@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <algorithm>
 #include <array>
 #include <new>
 

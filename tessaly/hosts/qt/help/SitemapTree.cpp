@@ -2,6 +2,7 @@
 
 #include <QStyledItemDelegate>
 #include <QTreeWidgetItemIterator>
+#include <algorithm>
 
 #include "tessaly/hosts/qt/ShownText.h"
 #include "tessaly/hosts/qt/Text.h"

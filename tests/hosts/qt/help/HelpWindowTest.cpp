@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <QWindow>
+#include <algorithm>
 
 #include "tests/hosts/qt/Stage.h"
 #include "tests/hosts/qt/help/HelpStage.h"
