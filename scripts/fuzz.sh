@@ -3,8 +3,8 @@
 
 buildFuzzers() {
   configure build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DTESSALY_FUZZERS=ON -DTESSALY_TESTS=OFF -DTESSALY_EXAMPLES=OFF &&
-    cmake --build build/fuzz -j "$jobs"
+    -DTESSALY_FUZZERS=ON -DTESSALY_TESTS=OFF &&
+    cmake --build build/fuzz -j "$jobs" --target fuzzers
 }
 
 listFuzzers() { find build/fuzz/fuzz -maxdepth 1 -type f -executable -name 'fuzz-*' -printf '%f\n' | sort; }

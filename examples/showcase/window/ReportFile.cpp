@@ -71,7 +71,7 @@ std::optional<std::vector<std::string>> cellsOf(std::string_view line) {
 /// "2025-07".
 bool isMonth(std::string_view text) {
   if (text.size() != 7 || text[4] != '-') return false;
-  for (const std::size_t i : {0, 1, 2, 3, 5, 6}) {
+  for (const std::size_t i : {0U, 1U, 2U, 3U, 5U, 6U}) {
     if (!isDigit(text[i])) return false;
   }
   const int month = (text[5] - '0') * 10 + (text[6] - '0');

@@ -141,7 +141,7 @@ class Walk {
   }
 
   void clickLink() {
-    window_.visitNextDialog([this](DialogUser& user) {
+    window_.visitNextDialog([](DialogUser& user) {
       user.click(kLinkField);
       user.press(Dialog::kCancel);
     });
